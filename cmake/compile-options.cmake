@@ -1,0 +1,20 @@
+# Options that hold for every target of the project.
+
+add_compile_options(-Wall -Wextra -Wshadow -Wformat=2 -Wconversion -Wsign-conversion
+                    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -fno-common)
+if(LUMARIS_WERROR)
+    add_compile_options(-Werror)
+endif()
+
+# Debug messages and assertions show paths relative to the sources, whatever folder was built in.
+add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+
+# Text and bytes are converted where the code says so, never implicitly.
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+                        QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
+
+if(LUMARIS_SANITIZE)
+    add_compile_options(-fsanitize=${LUMARIS_SANITIZE} -fno-omit-frame-pointer
+                        -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${LUMARIS_SANITIZE})
+endif()

@@ -1,0 +1,94 @@
+#include "config.h"
+
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <sstream>
+
+namespace {
+
+bool is_blank(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+bool is_key_char(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '-' || c == '.';
+}
+
+/// The end of the line counts as one; bytes from 128 up do not.
+bool is_control(char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
+}
+
+char *skip_blanks(char *p) {
+    while (is_blank(*p))
+        ++p;
+    return p;
+}
+
+}  // namespace
+
+int Config::read(const ustring &path) {
+    if (path.empty())
+        return -1;
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.c_str(), "r"),
+                                                                std::fclose);
+    if (file == nullptr)
+        return -1;
+
+    char line[8192];  // a longer line counts as several lines
+    while (std::fgets(line, sizeof(line), file.get()) != nullptr) {
+        ustring key, value;
+        const int result = parse(line, static_cast<int>(std::strlen(line)), key, value);
+        if (result == 0) {
+            (*this)[key] = value;
+        } else if (result == 2) {
+            clear();
+            return -1;
+        }
+    }
+    return 0;
+}
+
+int Config::parse(char *line, int /*length*/, ustring &key, ustring &value) {
+    char *const key_begin = skip_blanks(line);
+    char *key_end = key_begin;
+    while (is_key_char(*key_end))
+        ++key_end;
+    if (*key_end == '\0' || *key_end == '#')
+        return 1;
+
+    char *p = skip_blanks(key_end);
+    if (*p != '=')
+        return 2;
+    p = skip_blanks(p + 1);
+    if (*p == '\0')
+        return 2;
+
+    const char quote = *p;
+    const bool quoted = quote == '"' || quote == '\'';
+    char *const value_begin = quoted ? ++p : p;
+    while (!is_control(*p) && *p != (quoted ? quote : ' '))
+        ++p;
+    if (quoted && *p != quote)
+        return 2;
+
+    char *const value_end = p;
+    p = skip_blanks(quoted ? p + 1 : p);
+    if (*p != '\0' && *p != '#')
+        return 2;
+
+    *key_end = '\0';
+    *value_end = '\0';
+    key = key_begin;
+    value = value_begin;
+    return 0;
+}
+
+int Config::get_int(const ustring &key) {
+    std::istringstream text((*this)[key].c_str());
+    int number = 0;
+    text >> number;  // leaves 0 behind when there is no number
+    return number;
+}

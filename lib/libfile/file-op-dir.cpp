@@ -1,0 +1,86 @@
+#include <cerrno>
+#include <cstring>
+
+#include "file-op.h"
+#include "stored-path.h"
+
+#define LOG_MODULE "file-op"
+#include "log-macros.h"
+
+static const ustring LOG_COMPONENT("file_op_debug");
+
+namespace {
+
+int TypeOfEntry(unsigned char type) {
+    switch (type) {
+        case DT_REG:
+            return FILE_TYPE_REGULAR;
+        case DT_DIR:
+            return FILE_TYPE_DIRECTORY;
+        case DT_LNK:
+            return FILE_TYPE_SYMLINK;
+        case DT_CHR:
+        case DT_BLK:
+            return FILE_TYPE_DEVICE;
+        case DT_FIFO:
+            return FILE_TYPE_FIFO;
+        case DT_SOCK:
+            return FILE_TYPE_SOCKET;
+        default:
+            return FILE_TYPE_NONE;
+    }
+}
+
+}  // namespace
+
+int FSOpenDir(const ustring &path, int flags, DIR_HANDLE &handle) {
+    const ustring stored = StoredPath(path);
+    DIR *const dir = opendir(stored.c_str());
+    if (dir == nullptr) {
+        const int error = errno;
+        MSG_ERROR("FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(),
+                  std::strerror(error));
+        return -1;
+    }
+    handle.dir = dir;
+    handle.path = path;
+    handle.flags = flags;
+    return 0;
+}
+
+int FSReadDir(DIR_HANDLE &handle, DIR_ENTRY &entry) {
+    // A stream belongs to one walk, so readdir() does: readdir_r() is deprecated by the C library
+    // because it cannot report names longer than its buffer.
+    errno = 0;
+    const dirent *const found = readdir(handle.dir);
+    if (found == nullptr) {
+        const int error = errno;
+        if (error == 0) {
+            return 0;
+        }
+        MSG_ERROR("FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(),
+                  std::strerror(error));
+        return -1;
+    }
+    FILE_INFO info;
+    if ((handle.flags & DIR_FLAG_STAT) != 0) {
+        const ustring full = handle.path + "/" + found->d_name;
+        if (FSStat(full, info, true) != 0) {
+            MSG_ERROR("FSOpenDir: Failed to get info for '%s'\n", full.c_str());
+            return -1;
+        }
+    }
+    entry.mtime = info.mtime;
+    entry.size = info.size;
+    entry.name = static_cast<const char *>(found->d_name);
+    entry.type = TypeOfEntry(found->d_type);
+    return 1;
+}
+
+void FSCloseDir(DIR_HANDLE &handle) {
+    if (handle.dir != nullptr) {
+        closedir(handle.dir);
+    }
+    handle.dir = nullptr;
+    handle.path.clear();
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// The user-interface texts: each has a numeric ID (0 to 259), a key and an English text.
+namespace StrTable {
+
+/// Fills the table; called once, before any other thread asks for a text.
+void InitStrTable();
+
+/// The text with that ID, translated by the translator that is installed at the moment of the
+/// call. Empty for an unknown ID and before `InitStrTable`. Any thread.
+QString LoadStr(int id);
+
+/// The ID of a key, compared without regard to case; -1 when there is no such key.
+int LookupStrID(QString key);
+
+}  // namespace StrTable

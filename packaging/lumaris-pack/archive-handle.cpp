@@ -1,0 +1,23 @@
+#include "archive-handle.h"
+
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+
+void PinArchiveEnvironment() {
+    // In the plain C locale names stay the bytes they are. It is also the strictest reader: what it
+    // accepts, the launcher can read in every locale.
+    std::setlocale(LC_ALL, "C");
+    // zip stores local time.
+    setenv("TZ", "UTC0", 1);
+    tzset();
+}
+
+std::string ArchiveErrorText(archive *handle) {
+    const char *text = archive_error_string(handle);
+    const std::string message = text == nullptr ? "unknown error" : text;
+    // These two texts leave out why; elsewhere the number says no more than the text.
+    const bool incomplete = message == "Write error" || message.rfind("Failed to open", 0) == 0;
+    return incomplete ? message + ": " + std::strerror(archive_errno(handle)) : message;
+}

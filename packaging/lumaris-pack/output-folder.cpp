@@ -1,0 +1,76 @@
+#include "output-folder.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+
+#include "package-error.h"
+#include "package-rules.h"
+
+namespace fs = std::filesystem;
+
+OutputFolder::OutputFolder(const std::string &path) : m_path(path) {
+    while (m_path.size() > 1 && m_path.back() == '/') {
+        m_path.pop_back();
+    }
+    const fs::file_status status = fs::symlink_status(m_path);
+    if (fs::exists(status) && !(fs::is_directory(status) && fs::is_empty(m_path))) {
+        throw PackageError("the output " + Quoted(m_path) + " exists");
+    }
+    std::string temporary = m_path + ".XXXXXX";
+    if (mkdtemp(temporary.data()) == nullptr) {
+        throw PackageError("cannot create " + Quoted(m_path), errno);
+    }
+    m_temporary = temporary;
+    chmod(m_temporary.c_str(), 0755);
+}
+
+OutputFolder::~OutputFolder() {
+    if (!m_temporary.empty()) {
+        std::error_code ignored;
+        fs::remove_all(m_temporary, ignored);
+    }
+}
+
+void OutputFolder::MakeFolder(const std::string &name) {
+    if (mkdir((m_temporary + "/" + name).c_str(), 0755) != 0) {
+        throw PackageError("cannot create " + Quoted(m_path + "/" + name), errno);
+    }
+}
+
+UniqueFd OutputFolder::MakeFile(const std::string &name) {
+    const std::string path = m_temporary + "/" + name;
+    UniqueFd file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644));
+    if (file.Get() < 0) {
+        throw PackageError("cannot create " + Quoted(m_path + "/" + name), errno);
+    }
+    return file;
+}
+
+void OutputFolder::Publish() {
+    // Replaces an empty folder in one step, and fails when somebody filled it meanwhile.
+    if (rename(m_temporary.c_str(), m_path.c_str()) != 0) {
+        throw PackageError("cannot create " + Quoted(m_path), errno);
+    }
+    m_temporary.clear();
+}
+
+void FinishFile(UniqueFd file, const std::string &name) {
+    if (fsync(file.Get()) != 0 || close(file.Release()) != 0) {
+        throw PackageError("cannot write " + Quoted(name), errno);
+    }
+}
+
+void WriteText(int fd, const std::string &text, const std::string &name) {
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t n = write(fd, text.data() + done, text.size() - done);
+        if (n < 0 && errno != EINTR) {
+            throw PackageError("cannot write " + Quoted(name), errno);
+        }
+        done += n > 0 ? static_cast<std::size_t>(n) : 0;
+    }
+}

@@ -1,0 +1,212 @@
+#include "package-writer.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <iterator>
+#include <new>
+#include <vector>
+
+#include "archive-handle.h"
+#include "package-error.h"
+#include "package-rules.h"
+#include "unique-fd.h"
+
+namespace {
+
+constexpr PackageCoding kFormats[] = {
+    {"gnutar", ARCHIVE_FORMAT_TAR_GNUTAR, 0, 0, 0},
+    {"pax", ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE, 0, 0, 0},
+    {"zip", ARCHIVE_FORMAT_ZIP, 1, 9, 9},
+    {"7zip", ARCHIVE_FORMAT_7ZIP, 1, 9, 9},
+};
+
+constexpr PackageCoding kFilters[] = {
+    {"none", ARCHIVE_FILTER_NONE, 0, 0, 0},
+    {"gzip", ARCHIVE_FILTER_GZIP, 1, 9, 9},
+    {"xz", ARCHIVE_FILTER_XZ, 0, 6, 9},
+    {"zstd", ARCHIVE_FILTER_ZSTD, 1, kDefaultZstdLevel, 22},
+};
+
+constexpr std::size_t kBlockSize = 128 * 1024;
+
+template <std::size_t N>
+const PackageCoding *FindCoding(const PackageCoding (&codings)[N], const std::string &name) {
+    const auto *found = std::find_if(std::begin(codings), std::end(codings),
+                                     [&name](const PackageCoding &c) { return c.name == name; });
+    return found == std::end(codings) ? nullptr : found;
+}
+
+class Writer {
+public:
+    Writer(const ClientFolder &client, const PackageOptions &options,
+           const PackageProgress &progress)
+        : m_client(client),
+          m_options(options),
+          m_progress(progress),
+          m_total(client.TotalSize()),
+          m_archive(archive_write_new()) {
+        if (!m_archive) {
+            throw std::bad_alloc();
+        }
+    }
+
+    void Write(int fd) {
+        Configure();
+        Check(archive_write_open_fd(m_archive.get(), fd), "cannot write the package");
+        for (const ClientEntry &entry : m_client.entries) {
+            Report(0);
+            WriteEntry(entry);
+        }
+        Check(archive_write_close(m_archive.get()), "cannot write the package");
+    }
+
+private:
+    // A warning of the library means that an entry is not stored as it is: never good enough.
+    void Check(int status, const std::string &action) {
+        if (status != ARCHIVE_OK) {
+            throw PackageError(action + ": " + ArchiveErrorText(m_archive.get()));
+        }
+    }
+
+    void Configure() {
+        archive *const a = m_archive.get();
+        const PackageCoding &format = *m_options.format;
+        const PackageCoding &filter = *m_options.filter;
+        Check(archive_write_set_format(a, format.code), "cannot use this format");
+        Check(archive_write_add_filter(a, filter.code), "cannot use this filter");
+        const std::string level = std::to_string(m_options.level);
+        if (format.Compresses()) {
+            SetFormatOption("compression-level", level.c_str());
+        }
+        if (filter.Compresses()) {
+            SetFilterOption("compression-level", level.c_str());
+        }
+        if (filter.code == ARCHIVE_FILTER_GZIP) {
+            SetFilterOption("timestamp", nullptr);
+        }
+        if (filter.code == ARCHIVE_FILTER_XZ) {
+            // How the work is cut into blocks depends on the number of threads.
+            SetFilterOption("threads", "1");
+        }
+        if (format.code == ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE) {
+            SetFormatOption("hdrcharset", "BINARY");
+        }
+    }
+
+    void SetFormatOption(const char *option, const char *value) {
+        Check(
+            archive_write_set_format_option(m_archive.get(), m_options.format->name, option, value),
+            std::string("cannot set ") + option);
+    }
+
+    void SetFilterOption(const char *option, const char *value) {
+        Check(
+            archive_write_set_filter_option(m_archive.get(), m_options.filter->name, option, value),
+            std::string("cannot set ") + option);
+    }
+
+    void WriteEntry(const ClientEntry &entry) {
+        if (S_ISREG(entry.mode)) {
+            WriteFile(entry);
+        } else {
+            WriteHeader(entry);
+        }
+    }
+
+    void WriteHeader(const ClientEntry &entry) {
+        const ArchiveEntry header(archive_entry_new());
+        if (!header) {
+            throw std::bad_alloc();
+        }
+        // The plain setters keep the bytes; the others would convert them by the locale.
+        archive_entry_set_pathname(header.get(), entry.name.c_str());
+        archive_entry_set_mode(header.get(), entry.mode);
+        archive_entry_set_size(header.get(), static_cast<la_int64_t>(entry.size));
+        archive_entry_set_mtime(header.get(), m_options.mtime, 0);
+        archive_entry_set_uid(header.get(), 0);
+        archive_entry_set_gid(header.get(), 0);
+        if (S_ISLNK(entry.mode)) {
+            archive_entry_set_symlink(header.get(), entry.target.c_str());
+        }
+        Check(archive_write_header(m_archive.get(), header.get()),
+              "cannot store " + Quoted(entry.name));
+    }
+
+    void WriteFile(const ClientEntry &entry) {
+        const UniqueFd file(
+            open(m_client.Locate(entry.name).c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+        struct stat before = {};
+        if (file.Get() < 0 || fstat(file.Get(), &before) != 0) {
+            throw PackageError("cannot read " + Quoted(entry.name), errno);
+        }
+        WriteHeader(entry);
+        std::uint64_t done = 0;
+        while (const std::size_t n = ReadBlock(file.Get(), entry)) {
+            done += n;
+            RequireSame(entry, done <= entry.size);
+            WriteBlock(entry, n);
+            Report(n);
+        }
+        struct stat after = {};
+        RequireSame(entry, done == entry.size && fstat(file.Get(), &after) == 0 &&
+                               before.st_mtime == after.st_mtime);
+    }
+
+    std::size_t ReadBlock(int fd, const ClientEntry &entry) {
+        ssize_t n = 0;
+        do {
+            n = read(fd, m_block.data(), m_block.size());
+        } while (n < 0 && errno == EINTR);
+        if (n < 0) {
+            throw PackageError("cannot read " + Quoted(entry.name), errno);
+        }
+        return static_cast<std::size_t>(n);
+    }
+
+    void WriteBlock(const ClientEntry &entry, std::size_t n) {
+        const la_ssize_t written = archive_write_data(m_archive.get(), m_block.data(), n);
+        if (written != static_cast<la_ssize_t>(n)) {
+            throw PackageError("cannot write the package at " + Quoted(entry.name) + ": " +
+                               ArchiveErrorText(m_archive.get()));
+        }
+    }
+
+    static void RequireSame(const ClientEntry &entry, bool same) {
+        if (!same) {
+            throw PackageError(Quoted(entry.name) + " changed while it was packed");
+        }
+    }
+
+    void Report(std::size_t n) {
+        m_done += n;
+        if (m_progress && !m_progress(m_done, m_total)) {
+            throw PackageError("interrupted");
+        }
+    }
+
+    const ClientFolder &m_client;
+    const PackageOptions &m_options;
+    const PackageProgress &m_progress;
+    const std::uint64_t m_total;
+    std::uint64_t m_done = 0;
+    std::vector<char> m_block = std::vector<char>(kBlockSize);
+    ArchiveWriter m_archive;
+};
+
+}  // namespace
+
+const PackageCoding *FindFormat(const std::string &name) {
+    return FindCoding(kFormats, name);
+}
+
+const PackageCoding *FindFilter(const std::string &name) {
+    return FindCoding(kFilters, name);
+}
+
+void WritePackage(const ClientFolder &client, const PackageOptions &options, int fd,
+                  const PackageProgress &progress) {
+    Writer(client, options, progress).Write(fd);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+/// The keys of the group "Version" of an INFO file.
+inline constexpr std::array<const char *, 4> kVersionKeys = {
+    "major_version", "minor_version", "build_version", "icon_overlay_version"};
+
+/// The values, in the order of the keys.
+using VersionInfo = std::array<std::string, kVersionKeys.size()>;
+
+/// The text of an INFO file, the same bytes for the same version.
+std::string InfoText(const VersionInfo &version);
+
+/// How the INFO file at `path`, read as the launcher reads it, differs from `version`; empty when
+/// all four values agree.
+std::string InfoDifference(const std::string &path, const VersionInfo &version);

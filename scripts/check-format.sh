@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Checks the formatting of the C++ sources (clang-format) and runs the static analysis (clang-tidy).
+# usage: scripts/check-format.sh [--fix]     --fix: formats the sources instead
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+install_packages "${PACKAGES[@]}" clang-format clang-tidy
+
+mapfile -t sources < <(git ls-files '*.cpp' '*.h')
+if [ "${1:-}" = --fix ]; then
+    clang-format -i "${sources[@]}"
+    exit
+fi
+clang-format --dry-run --Werror "${sources[@]}"
+say "format: ${#sources[@]} files are as clang-format leaves them"
+
+# The database of the development build says how each file is compiled; moc's output is needed too.
+[ -f build/compile_commands.json ] || build dev
+mapfile -t units < <(git ls-files 'lib/*.cpp' 'libcommon/*.cpp' 'ui-client/*.cpp' 'packaging/*.cpp' \
+    'samples/*.cpp' | grep -v '_mac\.cpp$')
+printf '%s\n' "${units[@]}" | xargs -P "$(nproc)" -n 4 clang-tidy -p build --quiet 2>/dev/null
+say "analysis: ${#units[@]} files pass clang-tidy"

@@ -1,0 +1,73 @@
+# Shared by the scripts of this folder; sourced, not run.
+
+set -euo pipefail
+
+ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$ROOT"
+
+# What building, testing and the demo need beyond a bare Debian 12.
+PACKAGES=(
+    g++ cmake ninja-build
+    qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libgtest-dev
+    xvfb openbox xdotool x11-utils imagemagick time procps
+    fonts-liberation fonts-noto-cjk
+)
+
+say() { printf '%s\n' "$*"; }
+
+die() {
+    printf 'error: %s\n' "$*" >&2
+    exit 1
+}
+
+# install_packages NAME...: installs those that are missing; as an ordinary user it only names them.
+install_packages() {
+    local package missing=()
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null)" = "ii " ] ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    [ "$(id -u)" -eq 0 ] || die "missing packages; as root: apt-get install ${missing[*]}"
+    say "installing: ${missing[*]}"
+    apt-get -qq update
+    DEBIAN_FRONTEND=noninteractive apt-get -qq -y --no-install-recommends install \
+        "${missing[@]}" >/dev/null
+}
+
+# build PRESET: configures and builds; a second call only builds what changed.
+build() {
+    say "building ($1)"
+    cmake --preset "$1" >/dev/null
+    cmake --build --preset "$1"
+}
+
+# start_display FOLDER: brings up a display of our own in DISPLAY, with its picture in
+# FOLDER/Xvfb_screen0 and a window manager for the title bar. stop_display ends both.
+start_display() {
+    DISPLAY_PIDS=()
+    mkdir -p "$1"
+    Xvfb -displayfd 3 -fbdir "$1" -screen 0 640x360x24 -nolisten tcp \
+        3>"$1/display" >"$1/xvfb.log" 2>&1 &
+    DISPLAY_PIDS+=($!)
+    for _ in $(seq 100); do
+        [ -s "$1/display" ] && break
+        sleep 0.1
+    done
+    [ -s "$1/display" ] || die "Xvfb did not start: $(cat "$1/xvfb.log")"
+    DISPLAY=":$(cat "$1/display")"
+    export DISPLAY
+    XDG_CACHE_HOME=$1 XDG_CONFIG_HOME=$1 HOME=$1 openbox >"$1/openbox.log" 2>&1 &
+    DISPLAY_PIDS+=($!)
+    for _ in $(seq 100); do
+        xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 0x && return
+        sleep 0.1
+    done
+    die "the window manager did not start: $(cat "$1/openbox.log")"
+}
+
+stop_display() {
+    [ ${#DISPLAY_PIDS[@]} -eq 0 ] || kill "${DISPLAY_PIDS[@]}" 2>/dev/null || true
+    wait "${DISPLAY_PIDS[@]}" 2>/dev/null || true
+    DISPLAY_PIDS=()
+}

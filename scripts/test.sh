@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds and runs every test.
+# usage: scripts/test.sh [PRESET]     PRESET: dev (default), asan or tsan
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+preset=${1:-dev}
+install_packages "${PACKAGES[@]}"
+build "$preset"
+ctest --preset "$preset" --no-tests=error

@@ -1,0 +1,247 @@
+#include "logger.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <thread>
+#include <vector>
+
+namespace fs = std::filesystem;
+using namespace testing::internal;  // CaptureStderr and its kin
+
+namespace {
+
+std::string Now() {
+    char stamp[512];
+    const time_t now = time(nullptr);
+    return {stamp, strftime(stamp, sizeof(stamp), "%b %d %H:%M:%S ", localtime(&now))};
+}
+
+const size_t STAMP = Now().size();
+constexpr size_t LIMIT = 1048576;
+
+/// A text that takes `size` bytes in the log, time stamp included.
+std::string Filler(size_t size, char c = 'x') {
+    return std::string(size - STAMP, c);
+}
+
+/// What follows the time stamp at the start of `text`.
+std::string AfterStamp(const std::string &text) {
+    struct tm parsed = {};
+    const char *const rest = strptime(text.c_str(), "%b %d %H:%M:%S ", &parsed);
+    return rest == nullptr ? "no time stamp: " + text.substr(0, 80) : rest;
+}
+
+std::string Read(const std::string &path) {
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void Log(const std::string &text) {
+    Logger::LogMsg(Logger::LEVEL_ERROR, "service_debug", "%s", text.c_str());
+}
+
+class LoggerTest : public testing::Test {
+protected:
+    void SetUp() override {
+        char folder[] = "/tmp/logger-test-XXXXXX";
+        ASSERT_NE(mkdtemp(folder), nullptr);
+        m_folder = folder;
+        m_path = m_folder + "/launcher.log";
+        ASSERT_EQ(Start(m_path), 0);
+    }
+    void TearDown() override {
+        Logger::Destroy();
+        Logger::log_level.clear();
+        fs::remove_all(m_folder);
+    }
+    int Start(const std::string &path, const std::string &levels = {}) {
+        return Logger::Initialize(Logger::TYPE_FILE, path, levels, 50);
+    }
+    std::string Rotated(int index) { return m_path + "_" + std::to_string(index); }
+
+    std::string m_folder;
+    std::string m_path;
+};
+
+// First in the file: nothing has called Initialize yet.
+TEST(LoggerInitially, WritesWarningsToStandardError) {
+    CaptureStderr();
+    Logger::LogMsg(Logger::LEVEL_NOTE, "service_debug", "note\n");
+    Logger::LogMsg(Logger::LEVEL_WARNING, "service_debug", "warning\n");
+    EXPECT_EQ(AfterStamp(GetCapturedStderr()), "warning\n");
+}
+
+TEST_F(LoggerTest, ThresholdsPerComponent) {
+    const struct {
+        const char *levels;  // content of the threshold file, null for a missing one
+        const char *component;
+        Logger::Level level;
+        bool written;
+    } cases[] = {
+        {nullptr, "service_debug", Logger::LEVEL_WARNING, true},
+        {nullptr, "service_debug", Logger::LEVEL_NOTE, false},
+        {"launcher_debug=7\n", "launcher_debug", Logger::LEVEL_DEBUG, true},
+        {"launcher_debug=7\n", "service_debug", Logger::LEVEL_NOTE, false},
+        {"launcher_debug=7\n", "Launcher_debug", Logger::LEVEL_NOTE, false},
+        {"default_component=7\n", "service_debug", Logger::LEVEL_NOTE, false},
+        {"default_component=0\n", "service_debug", Logger::LEVEL_WARNING, true},
+        {"service_debug=3\n", "service_debug", Logger::LEVEL_WARNING, false},
+        {"service_debug=all\n", "service_debug", Logger::LEVEL_ERROR, false},
+        {"service_debug=7\n[rejected]\n", "service_debug", Logger::LEVEL_NOTE, false},
+    };
+    const std::string levels = m_folder + "/launcher.debug";
+    for (const auto &c : cases) {
+        if (c.levels != nullptr) {
+            std::ofstream(levels) << c.levels;
+        }
+        Logger::log_level.clear();
+        ASSERT_EQ(Start(m_path, levels), 0);
+        const auto before = fs::file_size(m_path);
+        Logger::LogMsg(c.level, c.component, "text\n");
+        EXPECT_EQ(fs::file_size(m_path) > before, c.written)
+            << c.component << " " << c.level << ": " << (c.levels ? c.levels : "no file");
+    }
+}
+
+TEST_F(LoggerTest, StampsLocalTimeAndAddsNoLineEnd) {
+    setenv("TZ", "XYZ-5:30", 1);
+    tzset();
+    const std::string before = Now();
+    Log("one, ");
+    const std::string after = Now();
+    Log("two\n");
+    unsetenv("TZ");
+    const std::string text = Read(m_path);
+    EXPECT_TRUE(text.substr(0, STAMP) == before || text.substr(0, STAMP) == after) << text;
+    EXPECT_EQ(AfterStamp(AfterStamp(text).substr(5)), "two\n");
+}
+
+TEST_F(LoggerTest, RotatesBeyondOneMebibyteOfItsOwn) {
+    std::ofstream(m_path) << "from an earlier start\n";
+    ASSERT_EQ(Start(m_path), 0);
+    Log(Filler(LIMIT));
+    EXPECT_FALSE(fs::exists(Rotated(0)));
+    Log("last\n");
+    const std::string first = Read(Rotated(0));
+    EXPECT_EQ(first.size(), 22 + LIMIT + STAMP + 5);
+    EXPECT_EQ(first.substr(0, 22), "from an earlier start\n");
+    EXPECT_EQ(first.substr(first.size() - 6), " last\n");
+    EXPECT_EQ(Read(m_path), "");
+    EXPECT_EQ(*Logger::log_rotated_count_shared, 1U);
+    EXPECT_EQ(Logger::log_rotated_count_private, 1U);
+
+    Log(Filler(LIMIT + 1, 'y'));
+    EXPECT_EQ(AfterStamp(Read(Rotated(0))), Filler(LIMIT + 1, 'y'));
+    EXPECT_EQ(Read(Rotated(1)), first);
+    Log("new\n");
+    EXPECT_EQ(AfterStamp(Read(m_path)), "new\n");
+}
+
+TEST_F(LoggerTest, DiscardsTheOldestOf49RotatedFiles) {
+    for (int i = 0; i < 49; ++i) {
+        std::ofstream(Rotated(i)) << i;
+    }
+    Log(Filler(LIMIT + 1));
+    EXPECT_EQ(AfterStamp(Read(Rotated(0))), Filler(LIMIT + 1));
+    for (int i = 1; i < 49; ++i) {
+        EXPECT_EQ(Read(Rotated(i)), std::to_string(i - 1));
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), {}), 50);
+}
+
+TEST_F(LoggerTest, FailedInitializeKeepsTheEarlierStream) {
+    Log(Filler(LIMIT + 1));
+    EXPECT_EQ(Start(m_folder), -1);
+    Log(Filler(LIMIT + 1));
+    Log("last\n");
+    EXPECT_EQ(fs::file_size(m_path), LIMIT + 1 + STAMP + 5);
+
+    for (const std::string &bad : {std::string(), m_folder + "/missing/launcher.log"}) {
+        Logger::Initialize(Logger::TYPE_STDERR, "", "", 50);
+        CaptureStderr();
+        EXPECT_EQ(Start(bad), -1) << bad;
+        Log(Filler(LIMIT + 1));
+        Logger::ReloadLogFile();
+        Logger::LogMsg(Logger::LEVEL_NOTE, "service_debug", "filtered\n");
+        Log("second\n");
+        Logger::Destroy();
+        fputs("still open", stderr);
+        EXPECT_EQ(AfterStamp(GetCapturedStderr().substr(LIMIT + 1)), "second\nstill open") << bad;
+    }
+}
+
+TEST_F(LoggerTest, DropsMessagesAfterAFailedRotationUntilReload) {
+    fs::remove(m_path);  // nothing there to rename
+    Log(Filler(LIMIT + 1));
+    Log("dropped\n");
+    EXPECT_TRUE(fs::is_empty(m_folder));
+    Logger::ReloadLogFile();
+    Log(Filler(LIMIT));
+    EXPECT_EQ(AfterStamp(Read(m_path)), Filler(LIMIT));
+    Logger::ReloadLogFile();  // appends and counts from 0
+    Log("more\n");
+    EXPECT_EQ(fs::file_size(m_path), LIMIT + STAMP + 5);
+}
+
+TEST_F(LoggerTest, FollowsTheRotationOfAnotherWriter) {
+    Log(Filler(LIMIT));
+    fs::rename(m_path, Rotated(0));
+    ++*Logger::log_rotated_count_shared;
+    Log("new ");
+    Log("file\n");
+    EXPECT_EQ(fs::file_size(Rotated(0)), LIMIT);
+    EXPECT_EQ(AfterStamp(AfterStamp(Read(m_path)).substr(4)), "file\n");
+}
+
+TEST_F(LoggerTest, WritesNothingBetweenDestroyAndInitialize) {
+    Logger::Destroy();
+    CaptureStdout();
+    CaptureStderr();
+    Log("lost\n");
+    EXPECT_EQ(GetCapturedStdout() + GetCapturedStderr(), "");
+    ASSERT_EQ(Start(m_path), 0);
+    Log("back\n");
+    EXPECT_EQ(AfterStamp(Read(m_path)), "back\n");
+}
+
+TEST_F(LoggerTest, LosesAndTearsNoMessageOfEightThreads) {
+    constexpr int THREADS = 8;
+    constexpr int MESSAGES = 2500;
+    const auto message = [](int t, int i) {
+        return std::to_string(t) + " " + std::to_string(i) + std::string(200, char('a' + t));
+    };
+    std::vector<std::thread> threads;
+    for (int t = 0; t < THREADS; ++t) {
+        threads.emplace_back([&message, t] {
+            for (int i = 0; i < MESSAGES; ++i) {
+                Log(message(t, i) + "\n");
+            }
+        });
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    EXPECT_TRUE(fs::exists(Rotated(3)));
+    std::stringstream lines;
+    for (int i = 48; i >= 0; --i) {
+        lines << Read(Rotated(i));
+    }
+    lines << Read(m_path);
+    int next[THREADS] = {};
+    for (std::string line; std::getline(lines, line);) {
+        const int t = AfterStamp(line)[0] - '0';
+        ASSERT_TRUE(t >= 0 && t < THREADS) << line;
+        ASSERT_EQ(AfterStamp(line), message(t, next[t]++));
+    }
+    for (const int count : next) {
+        EXPECT_EQ(count, MESSAGES);
+    }
+}
+
+}  // namespace

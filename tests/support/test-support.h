@@ -1,0 +1,100 @@
+#pragma once
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "logger.h"
+
+namespace fs = std::filesystem;
+
+inline void WriteFile(const fs::path &path, const std::string &text) {
+    fs::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+inline std::string ReadFile(const fs::path &path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// A home folder and a temporary folder of the test's own, and a log at level DEBUG.
+class HomeTest : public testing::Test {
+protected:
+    HomeTest() {
+        std::string name = (fs::temp_directory_path() / "lumaris-test-XXXXXX").string();
+        root = mkdtemp(name.data());
+        home = root / "home";
+        lumaris = home / ".LumarisBackup";
+        app = lumaris / "Lumaris.app";
+        fs::create_directories(home);
+        setenv("HOME", home.c_str(), 1);
+        WriteFile(root / "levels",
+                  "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=4\n");
+        Logger::Initialize(Logger::TYPE_FILE, (root / "log").c_str(), (root / "levels").c_str(),
+                           50);
+    }
+    ~HomeTest() override {
+        Logger::Destroy();
+        fs::remove_all(root);
+    }
+
+    std::string Log() const { return ReadFile(root / "log"); }
+    bool Logged(const std::string &text) const { return Log().find(text) != std::string::npos; }
+
+    fs::path root, home, lumaris, app;
+};
+
+/// One entry of a package: a folder when the name ends in "/", a symbolic or hard link when one is
+/// given, otherwise a file.
+struct PackageEntry {
+    std::string name;
+    std::string data = {};
+    int mode = 0644;
+    std::string symlink = {};
+    std::string hardlink = {};
+};
+
+inline void WritePackage(const fs::path &path, const std::vector<PackageEntry> &entries) {
+    fs::create_directories(path.parent_path());
+    struct archive *writer = archive_write_new();
+    archive_write_set_format_gnutar(writer);
+    archive_write_add_filter_gzip(writer);
+    ASSERT_EQ(ARCHIVE_OK, archive_write_open_filename(writer, path.c_str()));
+    for (const PackageEntry &item : entries) {
+        struct archive_entry *entry = archive_entry_new();
+        archive_entry_set_pathname(entry, item.name.c_str());
+        const bool folder = item.name.back() == '/';
+        archive_entry_set_filetype(entry, folder ? AE_IFDIR : AE_IFREG);
+        archive_entry_set_perm(entry, static_cast<mode_t>(folder ? 0755 : item.mode));
+        if (!item.symlink.empty()) {
+            archive_entry_set_filetype(entry, AE_IFLNK);
+            archive_entry_set_symlink(entry, item.symlink.c_str());
+        }
+        if (!item.hardlink.empty())
+            archive_entry_set_hardlink(entry, item.hardlink.c_str());
+        archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()));
+        EXPECT_EQ(ARCHIVE_OK, archive_write_header(writer, entry)) << item.name;
+        archive_write_data(writer, item.data.data(), item.data.size());
+        archive_entry_free(entry);
+    }
+    archive_write_free(writer);
+}
+
+/// A client bundle of that build; its executable comes from `client` or is a few bytes.
+inline std::vector<PackageEntry> ClientPackage(const std::string &build,
+                                               const std::string &client = "client") {
+    return {{"Contents/"},
+            {"Contents/MacOS/"},
+            {"Contents/Resources/"},
+            {"Contents/Resources/gr\xc3\xbc\xc3\x9f.txt", "hello " + build},
+            {"Contents/MacOS/lumaris-backup-ui", client, 0755},
+            {"Contents/Resources/INFO", "[Version]\nbuild_version=" + build + "\n"}};
+}

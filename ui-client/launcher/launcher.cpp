@@ -1,0 +1,60 @@
+#include "launcher.h"
+
+#include <QApplication>
+
+#include "notify-adapter.h"
+#include "progress-dialog.h"
+#include "worker.h"
+
+Launcher::Launcher() : QObject(nullptr), worker(new Worker), dialog(new ProcessingProgressDialog) {
+    dialog->setCancelButton(nullptr);
+    dialog->setAutoReset(false);
+
+    // Only LaunchDone ends the program: a dialog that the user closes stays closed, and the run
+    // goes on without it.
+    QApplication::setQuitOnLastWindowClosed(false);
+    disconnect(dialog, &QProgressDialog::canceled, dialog, &QProgressDialog::cancel);
+
+    Notify_Adapter *relay = &Notify_Adapter::GetInstance();
+    connect(this, &Launcher::sigStart, worker, &Worker::HandleServicce);
+    connect(worker, &Worker::sigShowMsg, this, &Launcher::ShowMsgBox);
+    connect(worker, &Worker::sigServiceDone, this, &Launcher::LaunchDone);
+    connect(worker, &Worker::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(worker, &Worker::sigSetLabelText, this, &Launcher::SetLabelText);
+    connect(relay, &Notify_Adapter::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(relay, &Notify_Adapter::sigUpdateDialogText, this, &Launcher::SetLabelText);
+}
+
+Launcher::~Launcher() {
+    delete worker;
+    delete dialog;
+}
+
+void Launcher::Run() {
+    worker->StartThread();
+}
+
+void Launcher::Start() {
+    Q_EMIT sigStart();
+}
+
+void Launcher::LaunchDone() {
+    dialog->setValue(100);
+    dialog->hide();
+    worker->QuitThread();
+    worker->JoinThread();
+    QCoreApplication::quit();
+}
+
+void Launcher::UpdateProgress(int total, int steps) {
+    // 64 bits: a package may hold more than INT_MAX / 100 entries.
+    dialog->setValue(static_cast<int>(qint64(steps) * 100 / total));
+}
+
+void Launcher::SetLabelText(QString text) {
+    dialog->setLabelText(text);
+}
+
+void Launcher::ShowMsgBox() {
+    dialog->show();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class ProcessingProgressDialog;
+class Worker;
+
+/// Controller on the GUI thread: owns the dialog and the worker, turns the worker's signals into
+/// changes of the dialog and ends the event loop when the service run is done.
+class Launcher : public QObject {
+    Q_OBJECT
+
+public:
+    Launcher();
+    /// The worker thread must have ended (see `LaunchDone`) or never have been started.
+    ~Launcher() override;
+
+    /// Starts the worker thread; called once.
+    void Run();
+    /// Requests the service run; called once, after `Run`.
+    void Start();
+
+Q_SIGNALS:
+    void sigStart();
+
+private Q_SLOTS:
+    /// Hides the dialog, joins the worker thread and quits the event loop.
+    void LaunchDone();
+    /// `total` is greater than 0.
+    void UpdateProgress(int total, int steps);
+    void SetLabelText(QString text);
+    /// Shows the dialog.
+    void ShowMsgBox();
+
+private:
+    Worker *worker;                    // owned
+    ProcessingProgressDialog *dialog;  // owned
+};

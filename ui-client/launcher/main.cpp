@@ -1,0 +1,75 @@
+#include <QCoreApplication>
+#include <QDir>
+#include <QString>
+#include <QTranslator>
+#include <clocale>
+#include <cstdio>
+
+#include "launcher.h"
+#include "log-macros.h"
+#include "lumaris-service.h"
+#include "qt-text.h"
+#include "qtsingleapplication.h"
+#include "str-table.h"
+#include "tarn-locale.h"
+
+#define LOG_MODULE "main"
+static const ustring LOG_COMPONENT("launcher_debug");
+
+int qInitResources_texts();
+
+namespace {
+
+/// Makes the bundle's plug-in folder the only one, so that the toolkit never mixes in the system's.
+void SetPluginPath(const char *executable) {
+    const QString path = QDir::cleanPath(QString::fromLocal8Bit(executable) +
+                                         QStringLiteral("/../../Frameworks/plugins"));
+    QCoreApplication::setLibraryPaths({path});
+    printf("lib path = '%s'\n", path.toUtf8().constData());
+    fflush(stdout);
+    if (!QDir(path).exists())  // The toolkit ends the process when it finds no platform plug-in.
+        MSG_ERROR("plug-in folder '%s' does not exist\n", path.toUtf8().constData());
+}
+
+void OpenLog() {
+    const ustring levelFile = Service::GetRootLumarisInstallPath() + "/log/launcher.debug";
+    const ustring logFolder = Service::GetUserLumarisInstallPath() + "/log";
+    if (!QDir().mkpath(ToQString(logFolder)))
+        return;  // Errors and warnings go to standard error then.
+    Logger::Initialize(Logger::TYPE_FILE, logFolder + "/launcher.log", levelFile,
+                       Logger::rotate_cnt);
+}
+
+/// Installs the user's language; without a catalogue the texts stay English.
+void InstallTranslation(QTranslator &translator) {
+    translator.load(QStringLiteral(":/") + TarnLocale::getDefaultLanguage() +
+                    QStringLiteral(".qm"));
+    if (!translator.isEmpty())
+        QCoreApplication::installTranslator(&translator);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    setlocale(LC_ALL, "");
+    qInitResources_texts();
+    SetPluginPath(argv[0]);
+
+    QtSingleApplication app(argc, argv, true);
+    OpenLog();
+    if (app.isRunning()) {
+        MSG_DEBUG("app has already launched, return\n");
+        return 0;
+    }
+
+    QTranslator translator;
+    InstallTranslation(translator);
+    StrTable::InitStrTable();  // before the launcher, whose dialog asks for texts
+
+    Launcher *launcher = new Launcher;
+    launcher->Run();
+    launcher->Start();
+    const int result = QApplication::exec();
+    delete launcher;
+    return result;
+}

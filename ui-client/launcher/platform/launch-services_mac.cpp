@@ -1,0 +1,26 @@
+#include <QDesktopServices>
+#include <QProcess>
+#include <QStringList>
+#include <QUrl>
+
+#include "launch-services.h"
+
+#ifndef __APPLE__
+#error "launch-services_mac.cpp is for macOS; other systems have a file of their own"
+#endif
+
+namespace LaunchServices {
+
+int UnregisterBundle(const QString &bundle) {
+    const QString tool = QStringLiteral(
+        "/System/Library/Frameworks/CoreServices.framework/Frameworks/"
+        "LaunchServices.framework/Support/lsregister");
+    return QProcess::execute(tool, {QStringLiteral("-u"), bundle});
+}
+
+bool OpenBundle(const QString &bundle) {
+    // Opening registers the bundle again.
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(bundle));
+}
+
+}  // namespace LaunchServices

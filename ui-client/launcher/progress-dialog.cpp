@@ -1,0 +1,30 @@
+#include "progress-dialog.h"
+
+#include <QFont>
+#include <QIcon>
+
+#include "lumaris-service.h"
+#include "qt-text.h"
+#include "str-table.h"
+
+ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
+    const QFont font(QStringLiteral("Arial"));
+    const QString icon = ToQString(Service::GetRootLumarisResourceInstallPath()) +
+                         QStringLiteral("/images/ico_72_lumaris.png");
+
+    setWindowTitle(StrTable::LoadStr(217));
+    setWindowIcon(QIcon(icon));
+    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+    setValue(0);
+    setRange(0, 100);
+    setLabelText(StrTable::LoadStr(218));
+    setFont(font);
+    setFixedWidth(400);
+    setModal(true);
+    setWindowModality(Qt::WindowModal);
+    setStyleSheet(
+        QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n"
+                       "  vertical-align: middle } "));
+}
+
+ProcessingProgressDialog::~ProcessingProgressDialog() = default;

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QThread>
+
+class Service;
+
+/// A thread that runs an event loop and nothing else.
+class HandlerThread : public QThread {
+    Q_OBJECT
+
+protected:
+    void run() override;
+};
+
+/// Runs the whole service run in one slot, on a thread of its own, and reports by signals only.
+///
+/// Created and destroyed on the GUI thread; destroyed only after `JoinThread`.
+class Worker : public QObject {
+    Q_OBJECT
+
+public:
+    Worker();
+    ~Worker() override;
+
+    void StartThread();
+    /// Asks the thread's event loop to end; does not wait.
+    void QuitThread();
+    /// Waits for the thread to end, without a time limit.
+    void JoinThread();
+
+Q_SIGNALS:
+    void sigServiceDone();
+    void sigShowMsg();
+    void sigUpdateProgress(int, int);
+    void sigSetLabelText(QString);
+
+private Q_SLOTS:
+    /// The service run, on the worker thread; ends with `sigServiceDone` whatever happened.
+    void HandleServicce();
+
+private:
+    friend class Launcher;  // connects its start signal to the slot
+
+    void Upgrade();
+
+    HandlerThread *thread;  // owned
+    Service *service;       // owned; used on the worker thread only
+};
