@@ -3,6 +3,8 @@
 # usage: scripts/test.sh [PRESET]     PRESET: dev (default), asan or tsan
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
+source scripts/sanitizers.sh
+
 preset=${1:-dev}
 install_packages "${PACKAGES[@]}"
 build "$preset"

@@ -56,7 +56,7 @@ private:
 
         const std::uint64_t size =
             S_ISREG(info.st_mode) ? static_cast<std::uint64_t>(info.st_size) : 0;
-        ClientEntry entry{name, StoredMode(info.st_mode), size, {}};
+        ClientEntry entry{name, StoredMode(info.st_mode), size, info.st_mtime, {}};
         if (S_ISLNK(info.st_mode)) {
             entry.target = fs::read_symlink(m_folder.Locate(name)).native();
             m_links.Add(name, entry.target);

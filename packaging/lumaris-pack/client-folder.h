@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <cstdint>
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ struct ClientEntry {
     std::string name;  ///< relative to the bundle, raw bytes
     mode_t mode;       ///< type and permissions as stored in the package
     std::uint64_t size;
+    std::time_t mtime;   ///< when listed; not stored
     std::string target;  ///< of a symbolic link
 };
 

@@ -138,21 +138,30 @@ private:
     void WriteFile(const ClientEntry &entry) {
         const UniqueFd file(
             open(m_client.Locate(entry.name).c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
-        struct stat before = {};
-        if (file.Get() < 0 || fstat(file.Get(), &before) != 0) {
+        if (file.Get() < 0) {
             throw PackageError("cannot read " + Quoted(entry.name), errno);
         }
         WriteHeader(entry);
         std::uint64_t done = 0;
         while (const std::size_t n = ReadBlock(file.Get(), entry)) {
             done += n;
-            RequireSame(entry, done <= entry.size);
+            RequireUnchanged(entry, file.Get());
             WriteBlock(entry, n);
             Report(n);
         }
-        struct stat after = {};
-        RequireSame(entry, done == entry.size && fstat(file.Get(), &after) == 0 &&
-                               before.st_mtime == after.st_mtime);
+        RequireUnchanged(entry, file.Get());
+        if (done != entry.size) {
+            throw PackageError("cannot read " + Quoted(entry.name) + " to its end");
+        }
+    }
+
+    // Asked after each block: there is no sense in packing the rest of a file that changes.
+    static void RequireUnchanged(const ClientEntry &entry, int fd) {
+        struct stat now = {};
+        if (fstat(fd, &now) != 0 || static_cast<std::uint64_t>(now.st_size) != entry.size ||
+            now.st_mtime != entry.mtime) {
+            throw PackageError(Quoted(entry.name) + " changed while it was packed");
+        }
     }
 
     std::size_t ReadBlock(int fd, const ClientEntry &entry) {
@@ -171,12 +180,6 @@ private:
         if (written != static_cast<la_ssize_t>(n)) {
             throw PackageError("cannot write the package at " + Quoted(entry.name) + ": " +
                                ArchiveErrorText(m_archive.get()));
-        }
-    }
-
-    static void RequireSame(const ClientEntry &entry, bool same) {
-        if (!same) {
-            throw PackageError(Quoted(entry.name) + " changed while it was packed");
         }
     }
 

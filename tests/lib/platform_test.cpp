@@ -27,7 +27,7 @@ protected:
     void SetUp() override {
         std::string name = (fs::canonical(fs::temp_directory_path()) / "platform-XXXXXX").string();
         m_root = mkdtemp(name.data());
-        for (const char *file : {"de\u0301/u\u0308.txt", "plain", "both/e\u0301", "both/\u00E9",
+        for (const char *file : {"de\u0301/u\u0308.txt", "plain", "both/e\u0301/f", "both/\u00E9/f",
                                  "\u212Aelvin", "gone (deleted)"}) {
             fs::create_directories((m_root / file).parent_path());
             std::ofstream(m_root / file) << file;
@@ -46,8 +46,8 @@ TEST_F(PlatformTest, StoredPathRespellsWhatExists) {
         {"d\u00E9//\u00FC.txt", "de\u0301//u\u0308.txt"},
         {"de\u0301/\u00FC.txt/", "de\u0301/u\u0308.txt/"},
         {"d\u00E9/n\u00E9w/\u00FC", "de\u0301/n\u00E9w/\u00FC"},  // the rest as asked for
-        {"both/\u00E9", "both/\u00E9"},                           // a match of the bytes wins
-        {"both/e\u0301", "both/e\u0301"},
+        {"both/\u00E9/new", "both/\u00E9/new"},                   // a match of the bytes wins
+        {"both/e\u0301/new", "both/e\u0301/new"},
         {"Kelvin", "\u212Aelvin"},  // ASCII that is stored outside it
         {"d\u00E9/\xFF", "de\u0301/\xFF"},
     };

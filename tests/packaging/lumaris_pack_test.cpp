@@ -296,22 +296,21 @@ TEST_F(LumarisPack, TouchesNoOutputThatExists) {
     ExpectNoOutput(1);
 }
 
-TEST_F(LumarisPack, FailuresLeaveNothingBehind) {
-    std::string noise(6 << 20, '\0');
-    for (char &c : noise) {
-        c = static_cast<char>(std::rand());
-    }
-    // The files are listed when the temporary output appears, and read for some seconds after that.
-    const std::string begin = Command("--level 19") + " & p=$!; until ls -d " + Out() +
-                              ".* >/dev/null 2>&1; do sleep 0.01; done; ";
-    const std::string file = App() + "/Contents/Library/noise";
-    for (const auto &[event, line] :
-         {std::pair<std::string, std::string>{
-              "echo >> " + file, "'Contents/Library/noise' changed while it was packed"},
-          {"truncate -s 5M " + file, "'Contents/Library/noise' changed while it was packed"},
-          {"touch -d 2001-01-01 " + file, "'Contents/Library/noise' changed while it was packed"},
-          {"kill -TERM $p", "interrupted"}}) {
-        Put("Contents/Library/noise", noise);
+TEST_F(LumarisPack, StoppedWhileReadingItLeavesNothingBehind) {
+    // Empty space that takes minutes to read. All files are listed when the temporary output is
+    // there.
+    const std::string file = App() + "/Contents/Library/a";
+    const std::string begin = "truncate -s 100G " + file + "; " + Command() +
+                              " & p=$!; until ls -d " + Out() +
+                              ".* >/dev/null 2>&1 || ! kill -0 $p; do sleep 0.01; done; ";
+    const std::string changed = "'Contents/Library/a' changed while it was packed";
+    const std::pair<std::string, std::string> cases[] = {
+        {"echo >> " + file, changed},
+        {"truncate -s 1M " + file, changed},
+        {"touch -d 2001-01-01 " + file, changed},
+        {"kill -TERM $p", "interrupted"},
+    };
+    for (const auto &[event, line] : cases) {
         EXPECT_EQ(Shell(begin + event + "; wait $p"), 1);
         ExpectLine(line);
         ExpectNoOutput();

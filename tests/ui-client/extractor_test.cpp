@@ -113,7 +113,6 @@ TEST_F(ExtractorTest, ListsAndCopiesBlocks) {
     EXPECT_EQ(0, extractor.copy_data(in, out));
     ASSERT_EQ(ARCHIVE_OK, archive_write_finish_entry(out));
     EXPECT_EQ(data, ReadFile(root / "copy"));
-    EXPECT_EQ(-1, extractor.copy_data(out, in)) << "a writer cannot be read";
     archive_write_free(out);
     archive_read_free(in);
 }

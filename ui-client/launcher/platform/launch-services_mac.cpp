@@ -5,10 +5,6 @@
 
 #include "launch-services.h"
 
-#ifndef __APPLE__
-#error "launch-services_mac.cpp is for macOS; other systems have a file of their own"
-#endif
-
 namespace LaunchServices {
 
 int UnregisterBundle(const QString &bundle) {

@@ -1,0 +1,8 @@
+# How the sanitizers report; sourced by the scripts that run instrumented programs.
+
+export ASAN_OPTIONS=detect_leaks=1:abort_on_error=0
+export UBSAN_OPTIONS=print_stacktrace=1
+# The toolkit's libraries are not instrumented: what they synchronise among themselves cannot be
+# seen, and what they do inside intercepted calls would be reported as races.
+export TSAN_OPTIONS=ignore_noninstrumented_modules=1:halt_on_error=1
+export LSAN_OPTIONS=suppressions=$ROOT/scripts/lsan.supp:print_suppressions=0
