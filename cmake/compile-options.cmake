@@ -17,4 +17,6 @@ if(LUMARIS_SANITIZE)
     add_compile_options(-fsanitize=${LUMARIS_SANITIZE} -fno-omit-frame-pointer
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${LUMARIS_SANITIZE})
+    # GCC's manual: this warning has false positives in instrumented code (std::regex, for one).
+    add_compile_options(-Wno-maybe-uninitialized)
 endif()

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Backup tasks stop, but files on the server stay there. Do you want to unlink this computer?</source>
-        <translation>Les tâches de sauvegarde s’arrêtent, mais les fichiers restent sur le serveur. Voulez-vous dissocier cet ordinateur ?</translation>
+        <translation>Les tâches de sauvegarde s’arrêtent, mais les fichiers restent sur le serveur. Voulez-vous dissocier cet ordinateur&#xa0;?</translation>
     </message>
     <message>
         <source>Completed</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Proxy address:</source>
-        <translation>Adresse du proxy :</translation>
+        <translation>Adresse du proxy&#xa0;:</translation>
     </message>
     <message>
         <source>Your account information could not be read. Try again later.</source>
@@ -61,11 +61,11 @@
     </message>
     <message>
         <source>Server address:</source>
-        <translation>Adresse du serveur :</translation>
+        <translation>Adresse du serveur&#xa0;:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Mot de passe :</translation>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>The username or password is incorrect. Try again.</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Date range:</source>
-        <translation>Période :</translation>
+        <translation>Période&#xa0;:</translation>
     </message>
     <message>
         <source>Excluded files</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Backing up the file: %1</source>
-        <translation>Sauvegarde du fichier : %1</translation>
+        <translation>Sauvegarde du fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Status</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Keyword:</source>
-        <translation>Mot-clé :</translation>
+        <translation>Mot-clé&#xa0;:</translation>
     </message>
     <message>
         <source>FarLink could not be reached. Check your Internet connection.</source>
@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>The server certificate has changed. Continue only if you know why. Do you want to continue?</source>
-        <translation>Le certificat du serveur a changé. Ne continuez que si vous en connaissez la raison. Voulez-vous continuer ?</translation>
+        <translation>Le certificat du serveur a changé. Ne continuez que si vous en connaissez la raison. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Enter the proxy settings manually</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>This folder is read-only, so files cannot be restored to it. Do you want to use it?</source>
-        <translation>Ce dossier est en lecture seule : aucun fichier ne peut y être restauré. Voulez-vous l’utiliser ?</translation>
+        <translation>Ce dossier est en lecture seule&#xa0;: aucun fichier ne peut y être restauré. Voulez-vous l’utiliser&#xa0;?</translation>
     </message>
     <message>
         <source>File filter</source>
@@ -425,11 +425,11 @@
     </message>
     <message>
         <source>Size:</source>
-        <translation>Taille :</translation>
+        <translation>Taille&#xa0;:</translation>
     </message>
     <message>
         <source>Maximum file size:</source>
-        <translation>Taille maximale des fichiers :</translation>
+        <translation>Taille maximale des fichiers&#xa0;:</translation>
     </message>
     <message>
         <source>January</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Number of items: %1</source>
-        <translation>Nombre d’éléments : %1</translation>
+        <translation>Nombre d’éléments&#xa0;: %1</translation>
     </message>
     <message>
         <source>February</source>
@@ -557,7 +557,7 @@
     </message>
     <message>
         <source>End date:</source>
-        <translation>Date de fin :</translation>
+        <translation>Date de fin&#xa0;:</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>Username:</source>
-        <translation>Nom d’utilisateur :</translation>
+        <translation>Nom d’utilisateur&#xa0;:</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>Files waiting to be backed up: %1</source>
-        <translation>Fichiers en attente de sauvegarde : %1</translation>
+        <translation>Fichiers en attente de sauvegarde&#xa0;: %1</translation>
     </message>
     <message>
         <source>There were too many sign-in attempts. Try again in a few minutes.</source>
@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Port:</source>
-        <translation>Port :</translation>
+        <translation>Port&#xa0;:</translation>
     </message>
     <message>
         <source>The server certificate has changed. Confirm it in the connection settings.</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>Start date:</source>
-        <translation>Date de début :</translation>
+        <translation>Date de début&#xa0;:</translation>
     </message>
     <message>
         <source>Lumaris Backup could not be started. Restart your computer.</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>Last upload: %1</source>
-        <translation>Dernier envoi : %1</translation>
+        <translation>Dernier envoi&#xa0;: %1</translation>
     </message>
     <message>
         <source>Do not use a proxy server</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Lumaris Backup is too old for this server. Do you want to update now?</source>
-        <translation>Lumaris Backup est trop ancien pour ce serveur. Voulez-vous le mettre à jour maintenant ?</translation>
+        <translation>Lumaris Backup est trop ancien pour ce serveur. Voulez-vous le mettre à jour maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -909,7 +909,7 @@
     </message>
     <message>
         <source>The server certificate could not be verified, so the connection may be insecure. Do you want to continue?</source>
-        <translation>Impossible de vérifier le certificat du serveur : la connexion risque de ne pas être sécurisée. Voulez-vous continuer ?</translation>
+        <translation>Impossible de vérifier le certificat du serveur&#xa0;: la connexion risque de ne pas être sécurisée. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Saturday</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Enter the verification code:</source>
-        <translation>Saisissez le code de vérification :</translation>
+        <translation>Saisissez le code de vérification&#xa0;:</translation>
     </message>
     <message>
         <source>Applying the settings...</source>
