@@ -73,7 +73,7 @@ new_bundle() {
 make_package() {
     [ -d "$WORK/package-$1" ] && return
     "$ROOT/packaging/demo/stage-client.sh" "$1" "$CLIENT" "$WORK/client-$1/Lumaris.app" >/dev/null
-    "$PACK" --major 2 --minor 5 --build "$1" "$WORK/client-$1/Lumaris.app" "$WORK/package-$1"
+    "$PACK" --level 3 --major 2 --minor 5 --build "$1" "$WORK/client-$1/Lumaris.app" "$WORK/package-$1"
 }
 
 client_folder() {
@@ -151,22 +151,30 @@ install_120() { # the state after act 1, without showing it
     wait "$LAUNCHER" && client_runs || fail "build 120 could not be installed"
 }
 
+# The last step is on the screen for some milliseconds only; on a busy machine the dialog may be
+# hidden before it is painted, so the first start gets three fresh home folders to show it.
 act_1() {
     say "== Act 1: first start in an empty home folder installs the client and starts it"
-    new_home 1
     new_bundle launcher 120
-    "$WATCH" "$WORK/screen/Xvfb_screen0" "$WORK/dialog.xwd" > "$DEMO/dialog-trace.txt" &
-    local watch=$!
-    launch
-    sleep 0.2
-    kill "$watch"
-    wait "$watch" 2>/dev/null || true
+    local attempt watch last=
+    for attempt in 1 2 3; do
+        new_home "1-$attempt"
+        "$WATCH" "$WORK/screen/Xvfb_screen0" "$WORK/dialog.xwd" > "$DEMO/dialog-trace.txt" &
+        watch=$!
+        launch
+        sleep 0.2
+        kill "$watch"
+        wait "$watch" 2>/dev/null || true
+        check "the bundle is the packaged client, byte for byte" bundle_is 120
+        check "the client runs" client_runs
+        last=$(tail -n 1 "$DEMO/dialog-trace.txt" | cut -d' ' -f2)
+        [ "$last" != 100 ] || break
+        say "  the dialog was last painted at ${last:-nothing}; once more"
+        kill -9 "$(client_pid)"
+    done
     convert "xwd:$WORK/dialog.xwd" -trim +repage "$DEMO/dialog.png"
     say "  the dialog went through $(wc -l < "$DEMO/dialog-trace.txt") steps; picture: $DEMO/dialog.png"
-    check "the dialog was shown and followed to 100" \
-        [ "$(tail -n 1 "$DEMO/dialog-trace.txt" | cut -d' ' -f2)" = 100 ]
-    check "the bundle is the packaged client, byte for byte" bundle_is 120
-    check "the client runs" client_runs
+    check "the dialog was shown and followed to 100" [ "$last" = 100 ]
     printf '%s\n' "$PEAK_KB" > "$DEMO/peak-act-1"
 }
 
@@ -279,7 +287,7 @@ act_7() {
     printf '[Version]\nmajor_version=2\nminor_version=5\nbuild_version=130\nicon_overlay_version=1\n' \
         > "$client/Contents/Resources/INFO"
     (cd "$files" && seq 100000 | split -a 5 -d -l 1 - entry-)
-    "$PACK" --major 2 --minor 5 --build 130 "$client" "$WORK/package-many"
+    "$PACK" --level 3 --major 2 --minor 5 --build 130 "$client" "$WORK/package-many"
     cp "$WORK/package-many/package/lumaris.wpk" "$BUNDLE/Contents/Resources/package/"
     cp "$WORK/package-many/INFO" "$BUNDLE/Contents/Resources/INFO"
 
@@ -304,11 +312,47 @@ act_7() {
     check "the client runs" client_runs
 }
 
+act_languages() {
+    say "== Languages: the dialog under all twenty locales, on one sheet"
+    declare -A locales=([enu]=en_US [cht]=zh_TW [chs]=zh_CN [jpn]=ja_JP [deu]=de_DE [krn]=ko_KR
+        [fra]=fr_FR [ita]=it_IT [esn]=es_ES [ptb]=pt_BR [rus]=ru_RU [dan]=da_DK [nor]=nb_NO
+        [sve]=sv_SE [nld]=nl_NL [plk]=pl_PL [hun]=hu_HU [ptg]=pt_PT [trk]=tr_TR [csy]=cs_CZ)
+    local code watch pictures=()
+    new_bundle languages 120
+    for code in enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy; do
+        new_home "language-$code"
+        rm -f "$WORK/dialog.xwd"
+        "$WATCH" "$WORK/screen/Xvfb_screen0" "$WORK/dialog.xwd" > "$WORK/trace-language" &
+        watch=$!
+        start_launcher LC_ALL="${locales[$code]}.UTF-8"
+        TITLE=
+        while kill -0 "$LAUNCHER" 2>/dev/null && [ -z "$TITLE" ]; do
+            TITLE=$(xdotool search --onlyvisible --class launcher getwindowname 2>/dev/null || true)
+        done
+        STATUS=0
+        wait "$LAUNCHER" || STATUS=$?
+        kill "$watch"
+        wait "$watch" 2>/dev/null || true
+        [ "$STATUS" -eq 0 ] && client_runs || fail "$code: status $STATUS, or the client does not run"
+        [ "$TITLE" = "Lumaris Backup" ] || fail "$code: the title is '$TITLE'"
+        [ -s "$WORK/dialog.xwd" ] || fail "$code: the dialog was not seen at work"
+        check "$code under ${locales[$code]}: dialog, title, catalogue, client" \
+            grep -q "qstrDef)=\[$code" "$HOME_DIR/../err"
+        convert "xwd:$WORK/dialog.xwd" -trim +repage "$WORK/$code.png"
+        pictures+=(-label "$code  ${locales[$code]}" "$WORK/$code.png")
+        kill -9 "$(client_pid)"
+        rm -rf "$HOME_DIR"
+    done
+    montage "${pictures[@]}" -tile 3x -geometry +12+8 -pointsize 14 -background '#e8e8e8' \
+        "$DEMO/languages.png"
+    say "  the sheet: $DEMO/languages.png"
+}
+
 start_display "$WORK/screen"
 xdotool mousemove 639 359 # out of the pictures
 for ACT in "${acts[@]}"; do
     case $ACT in
-        [1-7]) "act_$ACT" ;;
+        [1-7] | languages) "act_$ACT" ;;
         *) die "there is no act '$ACT'" ;;
     esac
     # A client of one act does not keep running into the next.

@@ -1,6 +1,7 @@
 # How the sanitizers report; sourced by the scripts that run instrumented programs.
 
-export ASAN_OPTIONS=detect_leaks=1:abort_on_error=0
+# Whole stacks: the suppressions below name libraries that are built without frame pointers.
+export ASAN_OPTIONS=detect_leaks=1:fast_unwind_on_malloc=0
 export UBSAN_OPTIONS=print_stacktrace=1
 # The toolkit's libraries are not instrumented: what they synchronise among themselves cannot be
 # seen, and what they do inside intercepted calls would be reported as races.

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <fstream>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -32,11 +33,9 @@ protected:
 TEST_F(ConfigTest, AcceptsLines) {
     const char *const cases[][2] = {
         {"\n \t\v\f\r\n  # comment\n#\nname#x=1\nname", ""},
-        {"pid=4711", "pid>4711|"},
-        {"a=1\r\nb=2\r\n", "a>1|b>2|"},
+        {"pid=4711\r\nb=2", "b>2|pid>4711|"},
         {" \tname \t= \tvalue   # note\n", "name>value|"},
-        {"A_z-0.9=1\n", "A_z-0.9>1|"},
-        {"a=\"two words\"#note\nb=''\n", "a>two words|b>|"},
+        {"A_z-0.9=1\na=\"two words\"#note\nb=''\n", "A_z-0.9>1|a>two words|b>|"},
         {"a='\"'\nb=\"'\" \n", "a>\"|b>'|"},
         {"a==b\nb=b=c\nc=#\nd=x'\"\n", "a>=b|b>b=c|c>#|d>x'\"|"},
         {"a=b#c\nb=b #c\n=value\n", ">value|a>b#c|b>b|"},
@@ -63,7 +62,6 @@ TEST_F(ConfigTest, OneMalformedLineEmptiesTheMap) {
 
 TEST_F(ConfigTest, KeepsEarlierEntriesUnlessALineIsMalformed) {
     EXPECT_EQ(0, read("a=1\nb=1\n") + read("b=2\n"));
-    EXPECT_EQ(-1, m_config.read(""));
     EXPECT_EQ(-1, m_config.read(m_path + "-missing"));
     EXPECT_EQ("a>1|b>2|", entries());
 }
@@ -76,13 +74,11 @@ TEST_F(ConfigTest, SplitsLongLines) {
 }
 
 TEST_F(ConfigTest, ReadsNumbers) {
-    const std::pair<const char *, int> cases[] = {{"4711", 4711}, {"12abc", 12}, {"-5", -5},
-                                                  {"010", 10},    {"0x10", 0},   {"abc", 0}};
-    for (const auto &[value, number] : cases) {
-        m_config["n"] = value;
-        EXPECT_EQ(number, m_config.get_int("n")) << value;
-    }
-    EXPECT_EQ(0, m_config.get_int("missing"));
+    read("a=4711\nb=12abc\nc=-5\nd=010\ne=0x10\nf=abc\n");
+    const std::pair<const char *, int> cases[] = {{"a", 4711}, {"b", 12}, {"c", -5},     {"d", 10},
+                                                  {"e", 0},    {"f", 0},  {"missing", 0}};
+    for (const auto &[key, number] : cases)
+        EXPECT_EQ(number, m_config.get_int(key)) << key;
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <cstdlib>
-#include <sstream>
 
 int qInitResources_texts();
 int qCleanupResources_texts();
@@ -19,67 +18,56 @@ std::string LanguageUnder(const char *locale, bool embedded = true) {
     const pid_t child = fork();
     if (child == 0) {
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        setenv("LC_ALL", locale, 1);
+        unsetenv("LANGUAGE");
         if (!embedded)
             while (QFile::exists(QStringLiteral(":/enu.qm")))
                 qCleanupResources_texts();
-        setenv("LC_ALL", locale, 1);
-        unsetenv("LANGUAGE");
         const QString code = TarnLocale::getDefaultLanguage();
         _exit(TarnLocale::getSupportedLanguages().indexOf(code));
     }
     int status = 0;
     waitpid(child, &status, 0);
-    return TarnLocale::getLanguageAbbrByID(WEXITSTATUS(status)).toStdString();
+    return TarnLocale::getLanguageAbbrByID(WIFEXITED(status) ? WEXITSTATUS(status) : -1)
+        .toStdString();
 }
 
 TEST(TarnLocale, LanguageForLocale) {
     qInitResources_texts();
-    const char *const cases[][2] = {
-        {"enu", "en_US.UTF-8 en_GB fi_FI sr_Latn_RS C POSIX nonsense"},
-        {"cht", "zh_TW zh_HK zh_MO zh_Hant_TW zh_Hant_HK"},
-        {"chs", "zh_CN zh_SG zh_Hans_CN zh"},
-        {"jpn", "ja_JP ja"},
-        {"deu", "de_DE.UTF-8 de_AT de_CH@euro"},
-        {"krn", "ko_KR"},
-        {"fra", "fr_FR fr_CA"},
-        {"ita", "it_IT"},
-        {"esn", "es_ES es_MX es_419"},
-        {"ptb", "pt_BR pt_AO"},
-        {"ptg", "pt_PT"},
-        {"rus", "ru_RU.KOI8-R"},
-        {"dan", "da_DK"},
-        {"nor", "nb_NO nn_NO no_NO"},
-        {"sve", "sv_SE sv_FI"},
-        {"nld", "nl_NL nl_BE"},
-        {"plk", "pl_PL"},
-        {"hun", "hu_HU"},
-        {"trk", "tr_TR"},
-        {"csy", "cs_CZ"},
+    const struct {
+        const char *locale, *code;
+    } cases[] = {
+        {"en_US.UTF-8", "enu"}, {"zh_TW", "cht"},      {"zh_HK", "cht"},
+        {"zh_MO", "cht"},       {"zh_Hant_TW", "cht"}, {"zh_CN", "chs"},
+        {"zh_Hans_SG", "chs"},  {"zh", "chs"},         {"ja", "jpn"},
+        {"de_CH@euro", "deu"},  {"ko_KR", "krn"},      {"fr_CA", "fra"},
+        {"it_IT", "ita"},       {"es_419", "esn"},     {"pt_BR", "ptb"},
+        {"pt_PT", "ptg"},       {"pt_AO", "ptb"},      {"ru_RU.KOI8-R", "rus"},
+        {"da_DK", "dan"},       {"nb_NO", "nor"},      {"nn_NO", "nor"},
+        {"no_NO", "nor"},       {"sv_FI", "sve"},      {"nl_BE", "nld"},
+        {"pl_PL", "plk"},       {"hu_HU", "hun"},      {"tr_TR", "trk"},
+        {"cs_CZ", "csy"},       {"en_GB", "enu"},      {"zh_SG", "chs"},
+        {"zh_Hant_HK", "cht"},  {"zh_Hans_CN", "chs"}, {"de_AT", "deu"},
+        {"ja_JP", "jpn"},       {"es_MX", "esn"},      {"fr_CH", "fra"},
+        {"C", "enu"},           {"sv_SE", "sve"},      {"nl_NL", "nld"},
+        {"uk_UA", "enu"},       {"fi_FI", "enu"},      {"sr_Latn_RS", "enu"},
+        {"POSIX", "enu"},       {"nonsense", "enu"},
     };
-    for (const auto &[code, locales] : cases) {
-        std::istringstream names(locales);
-        for (std::string locale; names >> locale;)
-            EXPECT_EQ(code, LanguageUnder(locale.c_str())) << locale;
-    }
+    for (const auto &row : cases)
+        EXPECT_EQ(row.code, LanguageUnder(row.locale)) << row.locale;
     EXPECT_EQ("enu", LanguageUnder("de_DE", false));
 }
 
 TEST(TarnLocale, CodesAndCatalogues) {
     const QStringList codes = TarnLocale::getSupportedLanguages();
     ASSERT_EQ(20, codes.size());
-    for (int id = 0; id < codes.size(); ++id)
-        EXPECT_EQ(codes[id], TarnLocale::getLanguageAbbrByID(id));
     EXPECT_EQ("enu", codes.first().toStdString());
-    EXPECT_EQ("ptg", codes[17].toStdString());
-    EXPECT_EQ("csy", codes.last().toStdString());
+    EXPECT_EQ("ptg", TarnLocale::getLanguageAbbrByID(17).toStdString());
     EXPECT_TRUE(TarnLocale::getLanguageAbbrByID(20).isEmpty());
     EXPECT_TRUE(TarnLocale::getLanguageAbbrByID(-1).isEmpty());
-
     QStringList files;
-    for (const QString &code : codes) {
-        EXPECT_TRUE(TarnLocale::isLanguageInstalled(code)) << qPrintable(code);
+    for (const QString &code : codes)
         files += code + QStringLiteral(".qm");
-    }
     files.sort();
     EXPECT_EQ(files, QDir(QStringLiteral(":/")).entryList({QStringLiteral("*.qm")}));
     for (const char *code : {"", "fin", "ENU"})

@@ -3,10 +3,13 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -16,7 +19,8 @@
 namespace fs = std::filesystem;
 
 inline void WriteFile(const fs::path &path, const std::string &text) {
-    fs::create_directories(path.parent_path());
+    if (path.has_parent_path())
+        fs::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << text;
 }
 
@@ -25,19 +29,28 @@ inline std::string ReadFile(const fs::path &path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+/// Runs checks in a process of their own, as somebody whom permissions hold.
+inline void Apart(const std::function<void()> &checks) {
+    const pid_t child = fork();
+    if (child == 0) {
+        EXPECT_TRUE(geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0));
+        checks();
+        _exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(0, status);
+}
+
 /// A home folder and a temporary folder of the test's own, and a log at level DEBUG.
 class HomeTest : public testing::Test {
 protected:
     HomeTest() {
         std::string name = (fs::temp_directory_path() / "lumaris-test-XXXXXX").string();
         root = mkdtemp(name.data());
-        home = root / "home";
-        lumaris = home / ".LumarisBackup";
-        app = lumaris / "Lumaris.app";
-        fs::create_directories(home);
-        setenv("HOME", home.c_str(), 1);
+        UseHome("home");
         WriteFile(root / "levels",
-                  "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=4\n");
+                  "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=7\n");
         Logger::Initialize(Logger::TYPE_FILE, (root / "log").c_str(), (root / "levels").c_str(),
                            50);
     }
@@ -46,6 +59,13 @@ protected:
         fs::remove_all(root);
     }
 
+    void UseHome(const std::string &name) {
+        home = root / name;
+        lumaris = home / ".LumarisBackup";
+        app = lumaris / "Lumaris.app";
+        fs::create_directories(home);
+        setenv("HOME", home.c_str(), 1);
+    }
     std::string Log() const { return ReadFile(root / "log"); }
     bool Logged(const std::string &text) const { return Log().find(text) != std::string::npos; }
 
@@ -88,6 +108,10 @@ inline void WritePackage(const fs::path &path, const std::vector<PackageEntry> &
     archive_write_free(writer);
 }
 
+inline std::string Info(const std::string &build) {
+    return "[Version]\nbuild_version=" + build + "\n";
+}
+
 /// A client bundle of that build; its executable comes from `client` or is a few bytes.
 inline std::vector<PackageEntry> ClientPackage(const std::string &build,
                                                const std::string &client = "client") {
@@ -96,5 +120,5 @@ inline std::vector<PackageEntry> ClientPackage(const std::string &build,
             {"Contents/Resources/"},
             {"Contents/Resources/gr\xc3\xbc\xc3\x9f.txt", "hello " + build},
             {"Contents/MacOS/lumaris-backup-ui", client, 0755},
-            {"Contents/Resources/INFO", "[Version]\nbuild_version=" + build + "\n"}};
+            {"Contents/Resources/INFO", Info(build)}};
 }

@@ -32,15 +32,6 @@ namespace {
 
 class MacServiceTest : public HomeTest {
 protected:
-    void InstallClient(const std::string &build) {
-        WriteFile(app / "Contents/MacOS/lumaris-backup-ui", "client");
-        WriteFile(app / "Contents/Resources/INFO", "[Version]\nbuild_version=" + build + "\n");
-    }
-    void ShipBuild(const std::string &build) {
-        const fs::path resources = Service::GetRootLumarisResourceInstallPath().c_str();
-        WriteFile(resources / "INFO", "[Version]\nbuild_version=" + build + "\n");
-        WritePackage(resources / "package/lumaris.wpk", ClientPackage(build));
-    }
     /// Time that stopping the process named by the pid file takes, in seconds.
     double Stop(const std::string &pidFile) {
         WriteFile(lumaris / "ui.pid", pidFile);
@@ -49,38 +40,20 @@ protected:
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     }
 
+    const fs::path resources = Service::GetRootLumarisResourceInstallPath().c_str();
     MacService service;
 };
 
-/// A process that keeps running; `prepare` runs in it first.
-pid_t StartClient(void (*prepare)()) {
-    int ready[2];
-    EXPECT_EQ(0, pipe(ready));
+/// A process that keeps running, for half a minute at most.
+pid_t StartClient(void (*on_term)(int)) {
+    signal(SIGTERM, on_term);
     const pid_t client = fork();
-    if (client == 0) {
-        prepare();
-        EXPECT_EQ(1, write(ready[1], "", 1));
-        for (;;)
-            pause();
+    while (client == 0) {
+        alarm(30);
+        pause();
     }
-    char byte;
-    EXPECT_EQ(1, read(ready[0], &byte, 1));
-    close(ready[0]);
-    close(ready[1]);
+    signal(SIGTERM, SIG_DFL);
     return client;
-}
-
-/// The signal that ended the child, 0 when it still runs (it is ended then).
-int SignalThatEnded(pid_t child) {
-    int status = 0;
-    for (int attempt = 0; attempt < 200; ++attempt) {
-        if (waitpid(child, &status, WNOHANG) == child)
-            return WTERMSIG(status);
-        usleep(10000);
-    }
-    kill(child, SIGKILL);
-    waitpid(child, &status, 0);
-    return 0;
 }
 
 TEST_F(MacServiceTest, UpgradeDecision) {
@@ -95,14 +68,12 @@ TEST_F(MacServiceTest, UpgradeDecision) {
     int number = 0;
     for (const auto &row : cases) {
         // The settings reader caches files by name, size and time.
-        home = root / std::to_string(++number);
-        app = home / ".LumarisBackup/Lumaris.app";
-        setenv("HOME", home.c_str(), 1);
-        InstallClient(row.source);
+        UseHome(std::to_string(++number));
+        WriteFile(app / "Contents/MacOS/lumaris-backup-ui", "client");
+        WriteFile(app / "Contents/Resources/INFO", Info(row.source));
+        WriteFile(resources / "INFO",
+                  Info(row.target) + std::string(static_cast<size_t>(number), '\n'));
         MacService fresh;
-        WriteFile(fs::path(Service::GetRootLumarisResourceInstallPath().c_str()) / "INFO",
-                  "[Version]\nbuild_version=" + std::string(row.target) +
-                      "\nmajor_version=" + std::string(static_cast<size_t>(number), '9') + "\n");
         fresh.PreUpgrade();
         EXPECT_EQ(row.needed, fresh.IsNeedUpgrade()) << row.source << " -> " << row.target;
         fs::remove(app / "Contents/MacOS/lumaris-backup-ui");
@@ -113,7 +84,7 @@ TEST_F(MacServiceTest, UpgradeDecision) {
 }
 
 TEST_F(MacServiceTest, HandlePackageUpgradeStopsOnlyAnInstalledClient) {
-    ShipBuild("121");
+    WritePackage(resources / "package/lumaris.wpk", ClientPackage("121"));
     EXPECT_EQ(0, service.HandlePackageUpgrade()) << Log();
     EXPECT_FALSE(Logged("local appdata exist"));
     EXPECT_FALSE(Logged("pid file"));
@@ -122,64 +93,40 @@ TEST_F(MacServiceTest, HandlePackageUpgradeStopsOnlyAnInstalledClient) {
     EXPECT_TRUE(Logged("ui.pid' does not exist, no need to terminate\n")) << Log();
 }
 
-TEST_F(MacServiceTest, StopsTheClient) {
+TEST_F(MacServiceTest, StopsTheClientAndKillsOneThatStays) {
     signal(SIGCHLD, SIG_IGN);  // so that an ended child is gone and not a zombie
-    const pid_t client = StartClient([] {});
+    const pid_t client = StartClient(SIG_DFL);
     EXPECT_LT(Stop("pid=" + std::to_string(client) + "\n"), 3);
     EXPECT_EQ(-1, kill(client, 0));
     EXPECT_LT(Stop("pid=" + std::to_string(client) + "\n"), 0.5) << "already gone";
     EXPECT_FALSE(Logged("[ERROR]")) << Log();
     signal(SIGCHLD, SIG_DFL);
+
+    const pid_t stubborn = StartClient(SIG_IGN);
+    const double seconds = Stop("pid=" + std::to_string(stubborn) + "\n");
+    EXPECT_TRUE(seconds > 4.5 && seconds < 8) << seconds;
+    int status = 0;
+    waitpid(stubborn, &status, 0);
+    EXPECT_EQ(SIGKILL, WTERMSIG(status));
 }
 
-TEST_F(MacServiceTest, KillsAClientThatStays) {
-    const pid_t client = StartClient([] { signal(SIGTERM, SIG_IGN); });
-    const double seconds = Stop("pid=" + std::to_string(client) + "\n");
-    EXPECT_GT(seconds, 4.5);
-    EXPECT_LT(seconds, 8);
-    EXPECT_EQ(SIGKILL, SignalThatEnded(client));
-}
-
-TEST_F(MacServiceTest, SignalsNoGroupAndNobodyWithoutAPid) {
-    // A child in a group of its own, so that a signal to the group would show.
-    const pid_t group = fork();
-    if (group == 0) {
+TEST_F(MacServiceTest, SignalsNobodyButTheClient) {
+    for (const fs::path &path : {root, home, root / "log"})
+        fs::permissions(path, fs::perms::all);
+    // In a group of its own, so that a signal to the group would show.
+    Apart([this] {
         setpgid(0, 0);
         const std::string own = std::to_string(getpid());
         for (const std::string &text :
              {std::string("pid=0\n"), "pid=-" + own + "\n", "pid=" + own + "\n",
               std::string("pid=-1x\n"), std::string("pid=none\n"), std::string("pid=\"\"\n"),
               std::string("pid=99999999999\n"), std::string("pid=99999999999999999999\n"),
-              std::string("other=1\n"), std::string("")}) {
-            if (Stop(text) > 0.5)
-                _exit(2);
-        }
-        Stop("pid=two words\n");
-        _exit(Logged("ui.pid', not exist ?\n") && !Logged("[ERROR]") ? 0 : 3);
-    }
-    int status = 0;
-    waitpid(group, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status)) << "ended by signal " << WTERMSIG(status);
-    EXPECT_EQ(0, WEXITSTATUS(status));
-}
-
-TEST_F(MacServiceTest, RefusedSignalIsLogged) {
-    fs::permissions(root, fs::perms::all);
-    fs::permissions(home, fs::perms::all);
-    fs::permissions(root / "log", fs::perms::all);
-    WriteFile(lumaris / "ui.pid", "pid=1\n");
-    const pid_t child = fork();
-    if (child == 0) {
-        if (geteuid() == 0 && setuid(65534) != 0)
-            _exit(1);
-        service.StopService();
-        _exit(0);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(0, status);
-    EXPECT_TRUE(Logged("): kill: Operation not permitted (1)\n")) << Log();
-    EXPECT_EQ(0, kill(1, 0) != 0 && errno == ESRCH);
+              std::string("other=1\n"), std::string(""), std::string("pid=two words\n")})
+            EXPECT_LT(Stop(text), 0.5) << text;
+        EXPECT_TRUE(Logged("ui.pid', not exist ?\n") && !Logged("[ERROR]")) << Log();
+        Stop("pid=1\n");
+        EXPECT_TRUE(Logged("): kill: Operation not permitted (1)\n")) << Log();
+    });
 }
 
 TEST_F(MacServiceTest, OpensTheBundleWhateverTheDesktopSays) {
