@@ -47,7 +47,7 @@ build() {
 start_display() {
     DISPLAY_PIDS=()
     mkdir -p "$1"
-    Xvfb -displayfd 3 -fbdir "$1" -screen 0 640x360x24 -nolisten tcp \
+    Xvfb -displayfd 3 -fbdir "$1" -screen 0 640x360x24 -nocursor -nolisten tcp \
         3>"$1/display" >"$1/xvfb.log" 2>&1 &
     DISPLAY_PIDS+=($!)
     for _ in $(seq 100); do

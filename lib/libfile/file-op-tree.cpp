@@ -94,9 +94,6 @@ int CopyContent(int src, int dst, char *buffer) {
         }
         if (size < 0) {
             const int error = errno;
-            if (error == EINTR) {
-                continue;
-            }
             MSG_ERROR("CopyFile: read: %s (%d)\n", std::strerror(error), error);
             return -1;
         }

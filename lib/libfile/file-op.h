@@ -5,9 +5,10 @@
 #include "ustring.h"
 
 // File operations. Every path is UTF-8; where names are bytes on disk, any canonically equivalent
-// spelling of a path finds the entry. All functions may be called from any thread, keep no state
-// and log their failures under "file_op_debug". Unless a comment says otherwise, int results are
-// 0 for success and -1 for failure. Nothing is rolled back after a failure half way.
+// spelling of a path finds the entry. All functions may be called from any thread, keep no state;
+// failures are logged under "file_op_debug" where a message helps. Unless a comment says otherwise,
+// int results are 0 for success and -1 for failure. Nothing is rolled back after a failure half
+// way.
 
 /// File types; also used by DIR_ENTRY.
 enum {

@@ -1,5 +1,6 @@
 #include "logger.h"
 
+#include <fcntl.h>
 #include <syslog.h>
 
 #include <array>
@@ -13,11 +14,23 @@ namespace {
 constexpr int DEFAULT_THRESHOLD = Logger::LEVEL_WARNING;
 constexpr int MAX_LOG_SIZE = 1024 * 1024;
 
-/// launcher.log_0 is the newest rotated file.
+/// launcher.log_0 is the newest rotated file. Empty when the name does not fit: a shortened one
+/// could be that of the log itself.
 std::array<char, 1024> RotatedName(char const *path, int index) {
     std::array<char, 1024> name;
-    snprintf(name.data(), name.size(), "%s_%d", path, index);
+    if (snprintf(name.data(), name.size(), "%s_%d", path, index) >= int(name.size())) {
+        name[0] = '\0';
+    }
     return name;
+}
+
+/// For appending; the programs that this one starts do not inherit it.
+FILE *OpenForAppending(ustring const &path) {
+    FILE *const stream = fopen(path.c_str_utf8(), "a");
+    if (stream != nullptr) {
+        fcntl(fileno(stream), F_SETFD, FD_CLOEXEC);
+    }
+    return stream;
 }
 
 bool IsFileType(Logger::Type type) {
@@ -35,7 +48,7 @@ void CloseStream() {
 }
 
 bool OpenLogFile() {
-    Logger::log_fp = fopen(Logger::log_path.c_str_utf8(), "a");
+    Logger::log_fp = OpenForAppending(Logger::log_path);
     return Logger::log_fp != nullptr;
 }
 
@@ -142,7 +155,7 @@ int Logger::Initialize(Logger::Type type, ustring const &path, ustring const &le
     log_type = type;
     if (IsFileType(type)) {
         // On failure the earlier stream stays; the fresh counters keep it from being rotated.
-        FILE *const stream = path.empty() ? nullptr : fopen(path.c_str_utf8(), "a");
+        FILE *const stream = path.empty() ? nullptr : OpenForAppending(path);
         if (stream == nullptr) {
             return -1;
         }

@@ -39,12 +39,13 @@ ustring FindEquivalent(const ustring &folder, const ustring &name) {
     }
     const ustring wanted = name.normalize(ustring::NFC);
     while (const dirent *entry = readdir(dir.get())) {
-        // A name in ASCII is its own composed form, so it would have been the exact match.
-        if (IsAscii(entry->d_name)) {
-            continue;
-        }
         const ustring stored(static_cast<const char *>(entry->d_name));
-        if (ustring::is_valid(stored) && stored.normalize(ustring::NFC) == wanted) {
+        // A name in ASCII is its own composed form.
+        const bool equivalent =
+            IsAscii(entry->d_name)
+                ? stored == wanted
+                : ustring::is_valid(stored) && stored.normalize(ustring::NFC) == wanted;
+        if (equivalent) {
             return stored;
         }
     }

@@ -1,5 +1,6 @@
 #include "archive-handle.h"
 
+#include <algorithm>
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
@@ -16,7 +17,11 @@ void PinArchiveEnvironment() {
 
 std::string ArchiveErrorText(archive *handle) {
     const char *text = archive_error_string(handle);
-    const std::string message = text == nullptr ? "unknown error" : text;
+    std::string message = text == nullptr ? "unknown error" : text;
+    // Some texts end with a line break, and some quote the archive.
+    std::replace_if(
+        message.begin(), message.end(), [](char c) { return c < ' ' && c >= 0; }, ' ');
+    message.erase(message.find_last_not_of(' ') + 1);
     // These two texts leave out why; elsewhere the number says no more than the text.
     const bool incomplete = message == "Write error" || message.rfind("Failed to open", 0) == 0;
     return incomplete ? message + ": " + std::strerror(archive_errno(handle)) : message;

@@ -10,7 +10,8 @@ struct ArchiveReadDeleter {
     void operator()(archive *handle) const { archive_read_free(handle); }
 };
 
-/// Gives up first: freeing alone would finish the archive and hide that something went wrong.
+/// Gives up first: freeing alone would finish the archive, which means filling up the entry that
+/// was being written. The library does not free its output buffer then.
 struct ArchiveWriteDeleter {
     void operator()(archive *handle) const {
         archive_write_fail(handle);
@@ -30,5 +31,6 @@ using ArchiveEntry = std::unique_ptr<archive_entry, ArchiveEntryDeleter>;
 /// archive library converts names and times by them, and neither may show in a package.
 void PinArchiveEnvironment();
 
-/// The library's words about the last failure, with the system's reason where there is one.
+/// The library's words about the last failure, with the system's reason where there is one: one
+/// line.
 std::string ArchiveErrorText(archive *handle);

@@ -34,7 +34,9 @@ public:
         while (NextEntry()) {
         }
         m_links.Check(m_report.problems);
-        CheckEnd();
+        if (m_complete) {
+            CheckEnd();
+        }
         return m_report;
     }
 
@@ -44,6 +46,7 @@ private:
         archive_entry *entry = nullptr;
         const int status = archive_read_next_header(m_archive.get(), &entry);
         if (status == ARCHIVE_EOF) {
+            m_complete = true;
             return false;
         }
         ++m_report.entries;
@@ -157,6 +160,7 @@ private:
 
     ArchiveReader m_archive;
     bool m_open = false;
+    bool m_complete = false;
     PackageReport m_report;
     LinkTable m_links;
     std::map<std::string, mode_t> m_modes;

@@ -96,13 +96,13 @@ int main(int argc, char **argv) {
     bool saved = false;
     for (int last = -1;; usleep(1000)) {
         const int percent = FilledPercent(screen);
-        if (percent == last || percent < 0)
-            continue;
-        last = percent;
-        if (percent >= 40 && !saved) {
+        if (percent == last && percent >= 40 && !saved) {  // painted to the end by now
             screen.Save(argv[2]);
             saved = true;
         }
+        if (percent == last || percent < 0)
+            continue;
+        last = percent;
         const auto passed = std::chrono::steady_clock::now() - start;
         printf("%lld %d\n",
                static_cast<long long>(

@@ -1,7 +1,6 @@
 #include <fcntl.h>
 #include <signal.h>
 
-#include <algorithm>
 #include <chrono>
 
 #include "test-support.h"
@@ -98,9 +97,12 @@ protected:
         }
         fs::remove(lumaris / "ui.pid", none);
     }
-    bool LockExists() const {
-        return std::any_of(fs::directory_iterator(root / "tmp"), fs::directory_iterator(),
-                           [](const auto &entry) { return entry.is_regular_file(); });
+    /// The lock file, empty when there is none.
+    fs::path Lock() const {
+        fs::path lock;
+        for (const auto &entry : fs::directory_iterator(root / "tmp"))
+            lock = entry.is_regular_file() ? entry.path() : lock;
+        return lock;
     }
 
     fs::path bundle, resources;
@@ -127,7 +129,7 @@ TEST_F(LaunchTest, InstallsUpgradesAndLeavesAlone) {
     EXPECT_EQ(Info("122"), InstalledInfo());
     EXPECT_FALSE(fs::exists(lumaris / "Lumaris.app_tmp") || fs::exists(lumaris / "app"));
     EXPECT_EQ(std::string::npos, LauncherLog().find("[ERROR]")) << LauncherLog();
-    EXPECT_FALSE(LockExists());
+    EXPECT_EQ("", Lock());
 }
 
 TEST_F(LaunchTest, BadPackageKeepsTheOldInstallation) {
@@ -229,7 +231,8 @@ TEST_F(LaunchTest, OnlyOneLauncherWorks) {
     pid_t first = start_to_work();
     kill(first, SIGKILL);
     EXPECT_EQ(1000 + SIGKILL, Finish(first));
-    EXPECT_TRUE(LockExists()) << "a killed launcher leaves its lock";
+    const fs::path lock = Lock();
+    EXPECT_FALSE(lock.empty()) << "a killed launcher leaves its lock";
 
     first = start_to_work();
     const auto start = std::chrono::steady_clock::now();
@@ -239,6 +242,10 @@ TEST_F(LaunchTest, OnlyOneLauncherWorks) {
     EXPECT_TRUE(OldOneIsWhole());
     EXPECT_EQ(0, Finish(first));
     EXPECT_TRUE(InstalledInfo() == Info("121") && ClientRuns());
+
+    WriteFile(lock, "");  // killed before it wrote its name
+    EXPECT_EQ(0, Launch());
+    EXPECT_EQ("", Lock());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QProgressBar>
+#include <QTest>
 #include <QThread>
 #include <QTimer>
 
@@ -17,6 +18,7 @@ using Calls = std::vector<std::string>;
 Calls calls;
 bool upgrade_needed = true;
 int upgrade_result = 0;
+unsigned long decision_ms = 0;
 QThread *service_thread = nullptr;
 
 }  // namespace
@@ -33,6 +35,7 @@ void MacService::PreUpgrade() {
 }
 bool MacService::IsNeedUpgrade() {
     calls.push_back("IsNeedUpgrade");
+    QThread::msleep(decision_ms);
     return upgrade_needed;
 }
 int MacService::HandlePackageUpgrade() {
@@ -63,6 +66,7 @@ protected:
         calls.clear();
         upgrade_needed = true;
         upgrade_result = 0;
+        decision_ms = 0;
     }
     /// One run to its end; returns what the dialog showed: every value with the first letter of
     /// the label then and "h" when hidden, and the last label.
@@ -118,23 +122,31 @@ TEST_F(LauncherTest, NothingToUpgradeShowsNothing) {
     EXPECT_LT(Log().find("): no need to upgrade\n"), Log().find("): done\n"));
 }
 
-TEST_F(LauncherTest, ClosingTheDialogEndsNothing) {
-    for (const bool escape : {true, false}) {
+TEST_F(LauncherTest, TheDialogStaysOpen) {
+    Launcher launcher;
+    ProcessingProgressDialog *dialog = Dialog();
+    dialog->show();
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->close());
+    EXPECT_TRUE(dialog->isVisible());
+    Notify_Adapter::GetInstance().UpdateProgress(2, 1);
+    EXPECT_EQ(50, dialog->value());
+}
+
+TEST_F(LauncherTest, QuitFromTheDesktopWaitsForTheRun) {
+    upgrade_needed = false;  // a visible dialog refuses to close and so keeps the loop running
+    decision_ms = 400;
+    {
         Launcher launcher;
-        ProcessingProgressDialog *dialog = Dialog();
-        dialog->show();
-        QTimer::singleShot(0, dialog, [=] { escape ? dialog->reject() : (void)dialog->close(); });
-        bool reached = false;
-        QTimer::singleShot(300, qApp, [&] {
-            reached = true;
-            Notify_Adapter::GetInstance().UpdateProgress(2, 1);
-            EXPECT_EQ(50, dialog->value());
-            EXPECT_FALSE(dialog->isVisible()) << "closed is closed";
-            QCoreApplication::quit();
-        });
-        QApplication::exec();
-        EXPECT_TRUE(reached) << "the loop ended with the dialog";
+        launcher.Run();
+        launcher.Start();
+        QTimer::singleShot(100, qApp,
+                           [] { QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit)); });
+        EXPECT_EQ(0, QApplication::exec());
+        EXPECT_EQ("IsNeedUpgrade", calls.back()) << "the loop ends before the run does";
     }
+    ASSERT_EQ(4u, calls.size());
+    EXPECT_EQ("PostUpgrade", calls[2]);
 }
 
 }  // namespace

@@ -129,10 +129,11 @@ TEST_F(ServiceTest, UpgradeUsesTheFirstFreeBackupName) {
 }
 
 TEST_F(ServiceTest, FailedExtractionRollsBack) {
-    WritePackage(package, ClientPackage("121"));
-    const std::string whole = ReadFile(package);
+    std::vector<PackageEntry> entries = ClientPackage("121");
+    entries.push_back({"a/../../x", "refused, when everything else is in place"});
+    WritePackage(package, entries);
     WriteFile(lumaris / "Lumaris.app_tmp/stale", "x");
-    for (const std::string &content : {whole.substr(0, whole.size() / 2), std::string()}) {
+    for (const std::string &content : {ReadFile(package), std::string()}) {
         Install("120");
         WriteFile(package, content);
         EXPECT_EQ(-1, service.PrepareUserEnv());

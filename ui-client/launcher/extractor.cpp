@@ -171,7 +171,7 @@ int Extractor::copy_data(struct archive *in, struct archive *out) {
     for (;;) {
         const void *buffer = nullptr;
         size_t size = 0;
-        la_int64_t offset = 0;
+        int64_t offset = 0;
         const int status = archive_read_data_block(in, &buffer, &size, &offset);
         if (status == ARCHIVE_EOF)
             return 0;

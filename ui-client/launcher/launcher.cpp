@@ -1,6 +1,7 @@
 #include "launcher.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 
 #include "notify-adapter.h"
 #include "progress-dialog.h"
@@ -10,10 +11,9 @@ Launcher::Launcher() : QObject(nullptr), worker(new Worker), dialog(new Processi
     dialog->setCancelButton(nullptr);
     dialog->setAutoReset(false);
 
-    // Only LaunchDone ends the program: a dialog that the user closes stays closed, and the run
-    // goes on without it.
+    // The run ends with LaunchDone, not with the window.
     QApplication::setQuitOnLastWindowClosed(false);
-    disconnect(dialog, &QProgressDialog::canceled, dialog, &QProgressDialog::cancel);
+    dialog->installEventFilter(this);
 
     Notify_Adapter *relay = &Notify_Adapter::GetInstance();
     connect(this, &Launcher::sigStart, worker, &Worker::HandleServicce);
@@ -26,8 +26,20 @@ Launcher::Launcher() : QObject(nullptr), worker(new Worker), dialog(new Processi
 }
 
 Launcher::~Launcher() {
+    worker->QuitThread();
+    worker->JoinThread();
     delete worker;
     delete dialog;
+}
+
+bool Launcher::eventFilter(QObject *watched, QEvent *event) {
+    const bool escape = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel);
+    if (escape || event->type() == QEvent::Close) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void Launcher::Run() {

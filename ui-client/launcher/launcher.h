@@ -13,7 +13,8 @@ class Launcher : public QObject {
 
 public:
     Launcher();
-    /// The worker thread must have ended (see `LaunchDone`) or never have been started.
+    /// Waits for the worker thread first: the desktop may end the event loop before `LaunchDone`
+    /// does, and a run that has begun is finished all the same.
     ~Launcher() override;
 
     /// Starts the worker thread; called once.
@@ -34,6 +35,9 @@ private Q_SLOTS:
     void ShowMsgBox();
 
 private:
+    /// Keeps the dialog open: it has nothing to cancel.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     Worker *worker;                    // owned
     ProcessingProgressDialog *dialog;  // owned
 };

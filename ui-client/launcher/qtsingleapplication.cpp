@@ -5,8 +5,9 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFileInfo>
 #include <QThread>
-#include <cerrno>
+#include <limits>
 
 namespace {
 
@@ -19,23 +20,25 @@ QString LockName(const QString &executable) {
         .arg(getuid(), 0, 16);
 }
 
-/// False for a lock file that names a dead process or nobody: its holder was killed while writing
-/// it, or it is not ours to remove.
-bool HeldByLivingProcess(const QLockFile &lock) {
-    qint64 pid = 0;
-    QString host, application;
-    if (!lock.getLockInfo(&pid, &host, &application) || pid <= 0)
-        return false;
-    return kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM;
-}
-
 }  // namespace
 
 QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool GUIenabled)
     : QApplication(argc, argv, GUIenabled ? ApplicationFlags : 0),
-      lock(LockName(applicationFilePath())) {
+      lockName(LockName(applicationFilePath())),
+      lock(lockName) {
     // A holder may take its time (a large package): only its death makes the lock stale.
     lock.setStaleLockTime(0);
+}
+
+/// False for a lock file that names a dead process or nobody (its holder was killed while writing
+/// it), and for one that another user has put there.
+bool QtSingleApplication::HeldByLivingProcess() const {
+    qint64 pid = 0;
+    QString host, application;
+    if (QFileInfo(lockName).ownerId() != getuid() || !lock.getLockInfo(&pid, &host, &application) ||
+        pid <= 0 || pid > std::numeric_limits<pid_t>::max())
+        return false;
+    return kill(static_cast<pid_t>(pid), 0) == 0;
 }
 
 bool QtSingleApplication::isRunning() {
@@ -45,12 +48,12 @@ bool QtSingleApplication::isRunning() {
             return false;
         if (lock.error() != QLockFile::LockFailedError)
             return false;
-        if (HeldByLivingProcess(lock))
+        if (HeldByLivingProcess())
             return true;
         QThread::msleep(50);
     }
     // Nobody's: an empty file left by a killed holder would block every later start.
     lock.removeStaleLockFile();
     lock.tryLock(0);
-    return !lock.isLocked() && HeldByLivingProcess(lock);
+    return !lock.isLocked() && HeldByLivingProcess();
 }

@@ -20,5 +20,8 @@ public:
     bool isRunning();
 
 private:
+    bool HeldByLivingProcess() const;
+
+    const QString lockName;
     QLockFile lock;
 };
