@@ -92,13 +92,13 @@ folder() {
         say "    (Lumaris.app: $(find "$USER_DIR/Lumaris.app" | wc -l) entries, build $(installed_build))"
 }
 
-# launch [VARIABLE=VALUE...]: one start, awaited; leaves STATUS, SECONDS_TAKEN and PEAK_KB.
+# launch: one start, awaited; leaves STATUS, SECONDS_TAKEN and PEAK_KB.
 launch() {
     folder before
     local from log_start
     log_start=$({ cat "$USER_DIR/log/launcher.log" 2>/dev/null || true; } | wc -l)
     from=$(date +%s%N)
-    start_launcher "$@"
+    start_launcher
     STATUS=0
     wait "$LAUNCHER" || STATUS=$?
     SECONDS_TAKEN=$((($(date +%s%N) - from) / 1000000000))
@@ -109,7 +109,7 @@ launch() {
     check "exit status 0" [ "$STATUS" -eq 0 ]
 }
 
-# start_launcher: the same without waiting; process in LAUNCHER, output beside the home folder.
+# start_launcher [VARIABLE=VALUE...]: the same without waiting; process in LAUNCHER, output beside the home folder.
 start_launcher() {
     env HOME="$HOME_DIR" TMPDIR="$TMP_DIR" XDG_RUNTIME_DIR="$TMP_DIR" "$@" \
         time -q -f %M -o "$HOME_DIR/../peak" "$BUNDLE/Contents/MacOS/launcher" \

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Shared by the scripts of this folder; sourced, not run.
 
 set -euo pipefail

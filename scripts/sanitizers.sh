@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # How the sanitizers report; sourced by the scripts that run instrumented programs.
 
 # Whole stacks: the suppressions below name libraries that are built without frame pointers.

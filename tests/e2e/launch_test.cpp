@@ -191,6 +191,7 @@ TEST_F(LaunchTest, LogFolderThatCannotBeMade) {
     WriteFile(lumaris, "a file where the folder should be");
     EXPECT_EQ(0, Launch());
     EXPECT_EQ("a file where the folder should be", ReadFile(lumaris));
+    EXPECT_NE(std::string::npos, ReadFile(root / "err").find("): Failed to launch Lumaris UI\n"));
 }
 
 TEST_F(LaunchTest, HomeThatCannotBeWritten) {

@@ -10,9 +10,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iterator>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -21,41 +22,54 @@ namespace {
 
 const std::string kExecutable = "Contents/MacOS/lumaris-backup-ui";
 const std::string kInfo = "Contents/Resources/INFO";
-const std::string kComposed =
-    "\xc3\x9c"
-    "bersicht";
-const std::string kDecomposed =
-    "Gru\xcc\x88\xc3\x9f"
-    "e";
-
+const std::string kComposed = "Contents/Resources/\xc3\x9c";
+const std::string kDecomposed = "Contents/Resources/U\xcc\x88";
+const std::string kPackage = "out/package/lumaris.wpk";
+const std::string kVerify = "LC_ALL=C.UTF-8 " LUMARIS_PACK " --verify " + kPackage;
 // An archive given up halfway leaves the archive library's output buffer behind.
 const std::string kAllowLeaks = "export ASAN_OPTIONS=detect_leaks=0; ";
 
-struct Item {
-    std::string name;
-    unsigned mode = AE_IFREG | 0644;
-    std::string data = {};  // or the target of a symbolic link
-    std::string hard_link = {};
-};
+constexpr unsigned kFolder = AE_IFDIR | 0755, kFile = AE_IFREG | 0644, kLink = AE_IFLNK | 0777;
+constexpr unsigned kHardLink = 0644, kProgram = AE_IFREG | 0755;
 
-std::string Read(const fs::path &path) {
+// Name, mode, and data or the target of a link.
+using Item = std::tuple<std::string, unsigned, std::string>;
+
+std::string Read(const std::string &path) {
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
+void Put(const std::string &name, const std::string &text, mode_t mode = 0644) {
+    const fs::path path = "Client.app/" + name;
+    fs::create_directories(path.parent_path());
+    std::ofstream(path) << text;
+    chmod(path.c_str(), mode);
+}
+
+std::string Pack(const std::string &options = "--level 1",
+                 const std::string &paths = "Client.app out") {
+    return LUMARIS_PACK " --build 121 --major 2 --minor 5 " + options + " " + paths;
+}
+
+// Each test runs in a folder of its own, with nothing but a client in it.
 class LumarisPack : public testing::Test {
 protected:
     LumarisPack() {
         std::string pattern = testing::TempDir() + "lumaris-pack-XXXXXX";
-        m_dir = mkdtemp(pattern.data());
-        fs::permissions(m_dir, fs::perms(0755));
+        fs::current_path(mkdtemp(pattern.data()));
+        m_dir = fs::current_path();
+        fs::permissions(m_dir, fs::perms(0777));
         unsetenv("SOURCE_DATE_EPOCH");
         MakeClient();
     }
-    ~LumarisPack() override { fs::remove_all(m_dir); }
+    ~LumarisPack() override {
+        fs::current_path("/");
+        fs::remove_all(m_dir);
+    }
 
-    void MakeClient() {
-        fs::remove_all(App());
+    static void MakeClient() {
+        fs::remove_all("Client.app");
         Put(kExecutable, "#!/bin/sh\n", 0755);
         Put(kInfo,
             "[Version]\nmajor_version=2\nminor_version=5\nbuild_version=121\n"
@@ -63,22 +77,7 @@ protected:
         Put("Contents/Library/a", "a", 0640);
     }
 
-    std::string App() const { return m_dir + "/Client.app"; }
-    std::string Out() const { return m_dir + "/out"; }
-    std::string Package() const { return Out() + "/package/lumaris.wpk"; }
-
-    void Put(const std::string &name, const std::string &text, mode_t mode = 0644) {
-        const fs::path path = fs::path(App()) / name;
-        fs::create_directories(path.parent_path());
-        std::ofstream(path) << text;
-        chmod(path.c_str(), mode);
-    }
-    void Link(const std::string &target, const std::string &name) {
-        fs::create_directories(fs::path(App() + "/" + name).parent_path());
-        fs::create_symlink(target, App() + "/" + name);
-    }
-
-    // Runs a shell command; standard output and standard error come back in m_text.
+    // Standard output and standard error come back in m_text.
     int Shell(const std::string &command) {
         FILE *pipe = popen(("exec 2>&1; " + command).c_str(), "r");
         char block[4096];
@@ -89,71 +88,63 @@ protected:
         const int status = pclose(pipe);
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
-    std::string Command(const std::string &options = "--level 1") const {
-        return Command(options, App(), Out());
-    }
-    static std::string Command(const std::string &options, const std::string &app,
-                               const std::string &out) {
-        return LUMARIS_PACK " --build 121 --major 2 --minor 5 " + options + " " + app + " " + out;
-    }
-    int Verify() { return Shell("LC_ALL=C.UTF-8 " LUMARIS_PACK " --verify " + Package()); }
-    // Nothing but the client and what else the test has put there.
-    void ExpectNoOutput(std::ptrdiff_t others = 0) {
-        EXPECT_EQ(std::distance(fs::directory_iterator(m_dir), {}), 1 + others);
-    }
-    // One line that begins with the name of the program.
-    void ExpectLine(const std::string &part) {
+    // One line that begins with the name of the program, and no file or folder more than before.
+    void ExpectError(const std::string &command, const std::string &part, int status = 1) {
+        const auto count = [] { return std::distance(fs::directory_iterator("."), {}); };
+        const auto before = count();
+        EXPECT_EQ(Shell(command), status) << command;
         EXPECT_EQ(m_text.rfind("lumaris-pack: ", 0), 0U) << m_text;
         EXPECT_EQ(m_text.find('\n'), m_text.size() - 1) << m_text;
-        EXPECT_NE(m_text.find(part), std::string::npos) << m_text;
+        EXPECT_NE(m_text.find(part), std::string::npos) << part << "\n" << m_text;
+        EXPECT_EQ(count(), before) << command;
     }
 
-    std::string m_dir;
+    fs::path m_dir;
     std::string m_text;
 };
 
 // Under the plain C locale of a program that has not called setlocale.
-std::vector<Item> ReadPackage(const std::string &path) {
+std::vector<Item> ReadPackage() {
     std::vector<Item> items;
     archive *a = archive_read_new();
     archive_read_support_filter_all(a);
     archive_read_support_format_all(a);
-    EXPECT_EQ(archive_read_open_filename(a, path.c_str(), 10240), ARCHIVE_OK);
+    EXPECT_EQ(archive_read_open_filename(a, kPackage.c_str(), 10240), ARCHIVE_OK);
     archive_entry *entry = nullptr;
     while (archive_read_next_header(a, &entry) == ARCHIVE_OK) {
         const char *link = archive_entry_symlink(entry);
         EXPECT_EQ(archive_entry_hardlink(entry), nullptr);
         EXPECT_EQ(archive_entry_mtime(entry), 0);
         EXPECT_EQ(archive_entry_uid(entry) + archive_entry_gid(entry), 0);
-        EXPECT_EQ(std::string(archive_entry_uname(entry)), "");
+        EXPECT_STREQ(archive_entry_uname(entry), "");
         std::string data(static_cast<std::size_t>(archive_entry_size(entry)), '\0');
         archive_read_data(a, data.data(), data.size());
-        items.push_back({archive_entry_pathname(entry), archive_entry_mode(entry),
-                         link != nullptr ? link : data});
+        items.emplace_back(archive_entry_pathname(entry), archive_entry_mode(entry),
+                           link != nullptr ? link : data);
     }
     archive_read_free(a);
     return items;
 }
 
-void WritePackage(const std::string &path, const std::vector<Item> &items) {
-    fs::create_directories(fs::path(path).parent_path());
+void WritePackage(const std::vector<Item> &items) {
+    fs::create_directories("out/package");
     ASSERT_NE(setlocale(LC_ALL, "C.UTF-8"), nullptr);  // pax converts names
     archive *a = archive_write_new();
     archive_write_set_format_pax_restricted(a);
-    ASSERT_EQ(archive_write_open_filename(a, path.c_str()), ARCHIVE_OK);
-    for (const Item &item : items) {
+    ASSERT_EQ(archive_write_open_filename(a, kPackage.c_str()), ARCHIVE_OK);
+    for (const auto &[name, mode, data] : items) {
         archive_entry *entry = archive_entry_new();
-        archive_entry_set_pathname(entry, item.name.c_str());
-        archive_entry_set_mode(entry, item.mode);
-        if (S_ISLNK(item.mode)) {
-            archive_entry_set_symlink(entry, item.data.c_str());
-        } else if (!item.hard_link.empty()) {
-            archive_entry_set_hardlink(entry, item.hard_link.c_str());
-        } else if (S_ISREG(item.mode)) {
-            archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()));
+        archive_entry_set_pathname(entry, name.c_str());
+        archive_entry_set_mode(entry, mode | (mode == kHardLink ? AE_IFREG : 0));
+        if (mode == kLink) {
+            archive_entry_set_symlink(entry, data.c_str());
+        } else if (mode == kHardLink) {
+            archive_entry_set_hardlink(entry, data.c_str());
+        } else {
+            archive_entry_set_size(entry, static_cast<la_int64_t>(data.size()));
         }
         archive_write_header(a, entry);
-        archive_write_data(a, item.data.data(), S_ISREG(item.mode) ? item.data.size() : 0);
+        archive_write_data(a, data.data(), S_ISREG(mode) ? data.size() : 0);
         archive_entry_free(entry);
     }
     archive_write_free(a);
@@ -161,255 +152,182 @@ void WritePackage(const std::string &path, const std::vector<Item> &items) {
 }
 
 TEST_F(LumarisPack, StoresTheBundleAsTheLauncherNeedsIt) {
-    const std::string long_name(120, 'n');
+    const std::string long_name = "Contents/Resources/" + std::string(120, 'n');
     Put("Contents/Library-", "sorts between the folder and what is in it");
-    Put("Contents/Resources/" + kComposed, "1");
-    Put("Contents/Resources/" + kDecomposed, "2", 0755);
-    Put("Contents/Resources/" + long_name, "3");
-    fs::create_directory(App() + "/Contents/Empty");
-    chmod((App() + "/Contents/Empty").c_str(), 0555);
-    fs::create_hard_link(App() + "/Contents/Library/a", App() + "/Contents/Library/b");
-    Link("../Resources/" + kComposed, "Contents/Library/link");
-    Link("link/../../../Contents", "Contents/Library/up");
-    Link("missing", "Contents/Library/dangling");
-    ASSERT_EQ(Shell(Command()), 0) << m_text;
+    Put(kComposed, "1");
+    Put(kDecomposed, "2", 0755);
+    Put(long_name, "3");
+    ASSERT_EQ(Shell("cd Client.app/Contents; mkdir -m 555 Empty; cd Library; ln a b; ln -s missing "
+                    "dangling; ln -s ../Resources link; ln -s link/../../Contents up"),
+              0);
+    ASSERT_EQ(Shell(Pack()), 0) << m_text;
     EXPECT_EQ(m_text, "");
-
     const std::vector<Item> expected = {
-        {"Contents/", AE_IFDIR | 0755, ""},
-        {"Contents/Empty/", AE_IFDIR | 0755, ""},
-        {"Contents/Library/", AE_IFDIR | 0755, ""},
-        {"Contents/Library-", AE_IFREG | 0644, "sorts between the folder and what is in it"},
+        {"Contents/", kFolder, ""},
+        {"Contents/Empty/", kFolder, ""},
+        {"Contents/Library/", kFolder, ""},
+        {"Contents/Library-", kFile, "sorts between the folder and what is in it"},
         {"Contents/Library/a", AE_IFREG | 0640, "a"},
         {"Contents/Library/b", AE_IFREG | 0640, "a"},
-        {"Contents/Library/dangling", AE_IFLNK | 0777, "missing"},
-        {"Contents/Library/link", AE_IFLNK | 0777, "../Resources/" + kComposed},
-        {"Contents/Library/up", AE_IFLNK | 0777, "link/../../../Contents"},
-        {"Contents/MacOS/", AE_IFDIR | 0755, ""},
-        {"Contents/Resources/", AE_IFDIR | 0755, ""},
-        {"Contents/Resources/" + kDecomposed, AE_IFREG | 0755, "2"},
-        {"Contents/Resources/" + long_name, AE_IFREG | 0644, "3"},
-        {"Contents/Resources/" + kComposed, AE_IFREG | 0644, "1"},
-        {kExecutable, AE_IFREG | 0755, "#!/bin/sh\n"},
-        {kInfo, AE_IFREG | 0644, Read(App() + "/" + kInfo)}};
-    const std::vector<Item> items = ReadPackage(Package());
-    ASSERT_EQ(items.size(), expected.size());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        EXPECT_EQ(items[i].name, expected[i].name);
-        EXPECT_EQ(items[i].mode, expected[i].mode) << items[i].name;
-        EXPECT_EQ(items[i].data, expected[i].data) << items[i].name;
-    }
-    EXPECT_EQ(Read(Out() + "/INFO"), Read(App() + "/" + kInfo));
-    EXPECT_EQ(Verify(), 0);
+        {"Contents/Library/dangling", kLink, "missing"},
+        {"Contents/Library/link", kLink, "../Resources"},
+        {"Contents/Library/up", kLink, "link/../../Contents"},
+        {"Contents/MacOS/", kFolder, ""},
+        {"Contents/Resources/", kFolder, ""},
+        {kDecomposed, kProgram, "2"},
+        {long_name, kFile, "3"},
+        {kComposed, kFile, "1"},
+        {kExecutable, kProgram, "#!/bin/sh\n"},
+        {kInfo, kFile, Read("Client.app/" + kInfo)}};
+    EXPECT_EQ(ReadPackage(), expected);
+    EXPECT_EQ(Read("out/INFO"), Read("Client.app/" + kInfo));
+    EXPECT_EQ(Shell(kVerify), 0);
     EXPECT_EQ(m_text, "16 entries\n");
-
-    fs::remove_all(Out());
-    ASSERT_EQ(Shell("script -qec '" + Command() + "' /dev/null"), 0) << m_text;
+    EXPECT_EQ(Shell("script -qec '" + Pack("", "Client.app again") + "' /dev/null"), 0) << m_text;
     EXPECT_NE(m_text.find("100 %"), std::string::npos) << m_text;
 }
 
 TEST_F(LumarisPack, TheSameFolderGivesTheSameBytes) {
-    Put("Contents/Resources/" + kComposed, std::string(300000, 'x'));
+    Put(kComposed, std::string(300000, 'x'));
     // Other times, another order in the folder, another time zone and locale.
-    const std::string copy = m_dir + "/Copy.app";
-    ASSERT_EQ(Shell("umask 022; mkdir -p " + copy + "/Contents/Resources && cp -Rp " + App() +
-                    "/. " + copy + " && find " + copy + " -exec touch -h -d 2001-01-01 {} +"),
-              0)
-        << m_text;
+    ASSERT_EQ(Shell("umask 022; mkdir -p Copy.app/Contents/Resources; cp -Rp Client.app/. Copy.app;"
+                    "find Copy.app -exec touch -h -d 2001-01-01 {} +"),
+              0);
     for (const std::string options : {"--filter none", "--filter gzip", "--filter xz",
                                       "--filter zstd", "--format pax", "--format zip"}) {
-        ASSERT_EQ(Shell("LC_ALL=C.UTF-8 TZ=Asia/Tokyo " + Command(options)), 0) << m_text;
-        const std::string first = Read(Package());
-        EXPECT_EQ(Verify(), 0) << options << m_text;
-        fs::remove_all(Out());
-        ASSERT_EQ(Shell("LC_ALL=C TZ=America/New_York " + Command(options, copy, Out())), 0)
-            << m_text;
-        EXPECT_TRUE(first == Read(Package())) << options;
+        ASSERT_EQ(Shell("LC_ALL=C.UTF-8 TZ=Asia/Tokyo " + Pack(options)), 0) << m_text;
+        const std::string first = Read(kPackage);
+        EXPECT_EQ(Shell(kVerify), 0) << options << m_text;
+        fs::remove_all("out");
+        ASSERT_EQ(Shell("TZ=America/New_York " + Pack(options, "Copy.app out")), 0) << m_text;
+        EXPECT_TRUE(first == Read(kPackage)) << options;
         if (options == "--filter gzip") {  // its time stamp would be that of the run
             EXPECT_EQ(first.substr(4, 4), std::string(4, '\0'));
         }
-        fs::remove_all(Out());
+        fs::remove_all("out");
     }
 }
 
 TEST_F(LumarisPack, RefusesWhatTheLauncherCannotInstall) {
-    const auto mode = [this](const std::string &name, mode_t bits) {
-        ASSERT_EQ(chmod((App() + "/" + name).c_str(), bits), 0);
+    const std::pair<std::string, std::string> cases[] = {
+        {"rm MacOS/*", "'" + kExecutable + "' is missing"},
+        {"chmod 655 MacOS/*", "'" + kExecutable + "' is not executable"},
+        {"ln -sf ../Library/a MacOS/lumaris-backup-ui", "'" + kExecutable + "' is not a plain"},
+        {"rm Resources/INFO", "'" + kInfo + "' is missing"},
+        {"sed -i s/121/12/ Resources/INFO", "has build_version '12', the package would have '121'"},
+        {"sed -i /icon/d Resources/INFO", "has icon_overlay_version ''"},
+        {"ln -s /etc/passwd l", "'Contents/l' points to an absolute"},
+        {"ln -s ../Client.app/Contents ../l", "'l' points out of the bundle"},
+        {"ln -s . here; ln -s here/../../x l", "'Contents/l' points out of the bundle"},
+        {"ln -s l l", "'Contents/l' never arrives"},
+        {"chmod 4755 Library/a", "'Contents/Library/a' is set-uid"},
+        {"chmod 1755 Library", "'Contents/Library' is set-uid, set-gid or sticky"},
+        {"mkfifo pipe", "'Contents/pipe' is neither"},
+        {"touch '\xff\nx'", "'Contents/\\xff\\x0ax' is not valid UTF-8"},
+        {"touch ._a", "'Contents/._a' is an AppleDouble file"},
     };
-    const auto remove = [this](const std::string &name) { fs::remove(App() + "/" + name); };
-    const struct {
-        std::string line;
-        std::function<void()> harm;
-    } cases[] = {
-        {"'" + kExecutable + "' is missing", [&] { remove(kExecutable); }},
-        {"'" + kExecutable + "' is not executable", [&] { mode(kExecutable, 0655); }},
-        {"'" + kExecutable + "' is not a plain file",
-         [&] { remove(kExecutable), Link("../Library/a", kExecutable); }},
-        {"'" + kInfo + "' is missing", [&] { remove(kInfo); }},
-        {"has build_version '12', the package would have '121'",
-         [&] { Put(kInfo, "[Version]\nmajor_version=2\nminor_version=5\nbuild_version=12\n"); }},
-        {"has icon_overlay_version ''",
-         [&] { Put(kInfo, "[Version]\nmajor_version=2\nminor_version=5\nbuild_version=121\n"); }},
-        {"'Contents/l' points to an absolute", [&] { Link("/etc/passwd", "Contents/l"); }},
-        {"'l' points out of the bundle", [&] { Link("../Client.app/Contents", "l"); }},
-        {"'Contents/l' points out of the bundle",
-         [&] { Link(".", "Contents/here"), Link("here/../../x", "Contents/l"); }},
-        {"'Contents/l' never arrives", [&] { Link("l", "Contents/l"); }},
-        {"'Contents/Library/a' is set-uid", [&] { mode("Contents/Library/a", 04755); }},
-        {"'Contents/Library' is set-uid, set-gid or sticky",
-         [&] { mode("Contents/Library", 01755); }},
-        {"'Contents/pipe' is neither",
-         [&] { ASSERT_EQ(mkfifo((App() + "/Contents/pipe").c_str(), 0644), 0); }},
-        {"'Contents/\\xff\\x0ax' is not valid UTF-8", [&] { Put("Contents/\xff\nx", ""); }},
-        {"'Contents/._a' is an AppleDouble file", [&] { Put("Contents/._a", ""); }},
-    };
-    for (const auto &c : cases) {
+    for (const auto &[harm, line] : cases) {
         MakeClient();
-        c.harm();
-        EXPECT_EQ(Shell(Command()), 1) << c.line;
-        ExpectLine(c.line);
-        ExpectNoOutput();
+        ExpectError("(cd Client.app/Contents; " + harm + "); " + Pack(), line);
     }
-}
-
-TEST_F(LumarisPack, RefusesWrongUsage) {
-    const std::string paths = " " + App() + " " + Out();
     for (const std::string arguments :
-         {"", "--bogus", "--build 12x --major 2 --minor 5", "--build 121 --major -2 --minor 5",
-          "--build 0121 --major 2 --minor 5", "--build 121 --major 2",
-          "--build 4294967296 --major 2 --minor 5"}) {
-        EXPECT_EQ(Shell(LUMARIS_PACK " " + arguments + paths), 2) << arguments;
-        ExpectLine("");
+         {"--bogus", "--build 12x", "--major -2", "--build 0121", "--minor ''",
+          "--build 4294967296", "--format rar", "--filter lzma", "--level 23", "--level x",
+          "--format zip --filter xz", "--filter none --level 1", "Client.app"}) {
+        ExpectError(Pack(arguments), "", 2);
     }
-    for (const std::string &options :
-         std::vector<std::string>{"--format rar", "--filter lzma", "--level 23", "--level x",
-                                  "--format zip --filter xz", "--filter none --level 1", App()}) {
-        EXPECT_EQ(Shell(Command(options)), 2) << options;
-        ExpectLine("");
-    }
-    ExpectNoOutput();
 }
 
 TEST_F(LumarisPack, TouchesNoOutputThatExists) {
-    fs::create_directory(Out());
-    EXPECT_EQ(Shell(Command()), 0) << m_text;
-    const std::string before = Read(Package());
+    fs::create_directory("out");  // empty is fine
+    EXPECT_EQ(Shell(Pack()), 0) << m_text;
+    const std::string before = Read(kPackage);
     Put("Contents/Library/a", "b");
-    EXPECT_EQ(Shell(Command()), 1);
-    ExpectLine("/out' exists");
-    EXPECT_TRUE(before == Read(Package()));
-    ExpectNoOutput(1);
+    ExpectError(Pack(), "'out' exists");
+    EXPECT_TRUE(before == Read(kPackage));
+    ExpectError(Pack("", "Client.app Client.app/out"), "lies in the client bundle");
+    EXPECT_FALSE(fs::exists("Client.app/out"));
 }
 
-TEST_F(LumarisPack, StoppedWhileReadingItLeavesNothingBehind) {
+TEST_F(LumarisPack, StoppedHalfwayItLeavesNothingBehind) {
     // Empty space that takes minutes to read. All files are listed when the temporary output is
     // there.
-    const std::string file = App() + "/Contents/Library/a";
-    const std::string begin = kAllowLeaks + "truncate -s 100G " + file + "; timeout -s KILL 30 " +
-                              Command() + " & p=$!; until ls -d " + Out() +
-                              ".* >/dev/null 2>&1 || ! kill -0 $p; do sleep 0.01; done; ";
-    const std::string changed = "'Contents/Library/a' changed while it was packed";
-    const std::pair<std::string, std::string> cases[] = {
-        {"echo >> " + file, changed},
-        {"truncate -s 1M " + file, changed},
-        {"touch -d 2001-01-01 " + file, changed},
-        {"kill -TERM $p", "interrupted"},
-    };
-    for (const auto &[event, line] : cases) {
-        EXPECT_EQ(Shell(begin + event + "; wait $p"), 1);
-        ExpectLine(line);
-        ExpectNoOutput();
+    const std::string begin =
+        kAllowLeaks + "f=Client.app/Contents/Library/a; truncate -s 100G $f; timeout -s KILL 30 " +
+        Pack() + " & p=$!; until ls -d out.* >/dev/null 2>&1 || ! kill -0 $p; do sleep .01; done; ";
+    for (const std::string event : {"echo >> $f", "truncate -s 1M $f", "touch -d 2001-01-01 $f"}) {
+        ExpectError(begin + event + "; wait $p", "'Contents/Library/a' changed while it was");
     }
+    ExpectError(begin + "kill -TERM $p; wait $p", "interrupted");
 }
 
 TEST_F(LumarisPack, AnUnreadableFileIsAnError) {
     const std::string user =
         geteuid() == 0 ? "setpriv --reuid 65534 --regid 65534 --clear-groups " : "";
-    chmod(m_dir.c_str(), 0777);
     if (Shell(user + LUMARIS_PACK " --help >/dev/null") != 0) {
         GTEST_SKIP() << "an unprivileged user cannot start the program: " << m_text;
     }
     Put("Contents/Library/a", "secret", 0);
-    EXPECT_EQ(Shell(kAllowLeaks + user + Command()), 1);
-    ExpectLine("cannot read 'Contents/Library/a': Permission denied");
-    ExpectNoOutput();
+    ExpectError(kAllowLeaks + user + Pack(), "read 'Contents/Library/a': Permission denied");
 }
 
 TEST_F(LumarisPack, AFullDiskIsAnError) {
-    fs::create_directory(m_dir + "/disk");
-    if (geteuid() != 0 || Shell("mount -t tmpfs -o size=64k tmpfs " + m_dir + "/disk") != 0) {
+    if (geteuid() != 0 || Shell("mkdir disk; mount -t tmpfs -o size=64k tmpfs disk") != 0) {
         GTEST_SKIP() << "a small file system cannot be mounted: " << m_text;
     }
     Put("Contents/Library/a", std::string(1 << 20, 'x'));
-    EXPECT_EQ(Shell(kAllowLeaks + Command("--filter none", App(), m_dir + "/disk/out")), 1);
-    ExpectLine("No space left on device");
-    EXPECT_TRUE(fs::is_empty(m_dir + "/disk"));
-    EXPECT_EQ(Shell("umount " + m_dir + "/disk"), 0) << m_text;
+    ExpectError(kAllowLeaks + Pack("--filter none", "Client.app disk/out"), "No space left");
+    EXPECT_TRUE(fs::is_empty("disk"));
+    EXPECT_EQ(Shell("umount disk"), 0) << m_text;
 }
 
 TEST_F(LumarisPack, VerifyNamesWhatTheLauncherWouldRefuse) {
-    const std::vector<Item> head = {{"Contents", AE_IFDIR | 0755, ""},
-                                    {"Contents/MacOS", AE_IFDIR | 0755, ""},
-                                    {"Contents/Resources", AE_IFDIR | 0755, ""}};
-    const std::vector<Item> tail = {{kExecutable, AE_IFREG | 0755, "x"},
-                                    {kInfo, AE_IFREG | 0644, "i"}};
-    const struct {
-        std::string line;
-        std::vector<Item> items;
-    } cases[] = {
-        {"'/etc/x' is not a relative name", {{"/etc/x"}}},
-        {"'Contents/../x' has an empty, '.' or '..' part", {{"Contents/../x"}}},
-        {"'Contents/h' is a hard link", {{"Contents/h", AE_IFREG | 0644, "", kInfo}}},
-        {"'Contents/s' is set-uid", {{"Contents/s", AE_IFREG | 02755, ""}}},
-        {"'Contents/p' is neither", {{"Contents/p", AE_IFIFO | 0644, ""}}},
-        {"'Contents/d/' is a folder that its owner", {{"Contents/d", AE_IFDIR | 0555, ""}}},
-        {"'Contents/l' points out of the bundle", {{"Contents/l", AE_IFLNK | 0777, "../../x"}}},
+    const Item program = {kExecutable, kProgram, "x"}, info = {kInfo, kFile, "i"};
+    const std::pair<std::string, std::vector<Item>> cases[] = {
+        {"'/etc/x' is not a relative name", {{"/etc/x", kFile, ""}, program, info}},
+        {"'Contents/../x' has an empty, '.' or", {{"Contents/../x", kFile, ""}, program, info}},
+        {"'Contents/h' is a hard link", {{"Contents/h", kHardLink, kInfo}, program, info}},
+        {"'Contents/s' is set-uid", {{"Contents/s", AE_IFREG | 02755, ""}, program, info}},
+        {"'Contents/p' is neither", {{"Contents/p", AE_IFIFO | 0644, ""}, program, info}},
+        {"'Contents/d/' is a folder that its",
+         {{"Contents/d", AE_IFDIR | 0555, ""}, program, info}},
+        {"'Contents/l' points out of", {{"Contents/l", kLink, "../../x"}, program, info}},
         {"'Contents/l/x' does not come after",
-         {{"Contents/l", AE_IFLNK | 0777, "MacOS"}, {"Contents/l/x"}}},
-        {"'Contents/a' is there twice", {{"Contents/a"}, {"Contents/a"}}},
-        {"Pathname can't be converted", {{"Contents/" + kComposed}}},
+         {{"Contents/l", kLink, "MacOS"}, {"Contents/l/x", kFile, ""}, program, info}},
+        {"'Contents/MacOS/' is there twice", {{"Contents/MacOS", kFolder, ""}, program, info}},
+        {"Pathname can't be converted", {{kComposed, kFile, ""}, program, info}},
+        {"last entry but one is not '" + kExecutable, {program, {"x", kFile, ""}, info}},
+        {"the last entry is not '" + kInfo, {info, program, {"x", kFile, ""}}},
+        {"'" + kExecutable + "' is not executable", {{kExecutable, kFile, ""}, info}},
     };
-    for (const auto &c : cases) {
-        std::vector<Item> items = head;
-        items.insert(items.end(), c.items.begin(), c.items.end());
-        items.insert(items.end(), tail.begin(), tail.end());
-        WritePackage(Package(), items);
-        EXPECT_EQ(Verify(), 1) << c.line;
-        ExpectLine(c.line);
+    for (const auto &[line, end] : cases) {
+        std::vector<Item> items = {{"Contents", kFolder, ""},
+                                   {"Contents/MacOS", kFolder, ""},
+                                   {"Contents/Resources", kFolder, ""}};
+        items.insert(items.end(), end.begin(), end.end());
+        WritePackage(items);
+        EXPECT_EQ(Shell(kVerify), 1) << line;
+        EXPECT_NE(m_text.find(line), std::string::npos) << line << "\n" << m_text;
     }
-    WritePackage(Package(), {head[0], head[1], head[2], tail[1], tail[0]});
-    EXPECT_EQ(Verify(), 1);
-    EXPECT_NE(m_text.find("the last entry is not '" + kInfo + "'"), std::string::npos) << m_text;
-    WritePackage(Package(), {head[0], head[1], head[2], {kExecutable}, tail[1]});
-    EXPECT_EQ(Verify(), 1);
-    ExpectLine("'" + kExecutable + "' is not executable");
 }
 
 TEST_F(LumarisPack, VerifyRefusesDamage) {
-    Put("Contents/Library/a", std::string(100000, 'x'));
-    ASSERT_EQ(Shell(Command("--filter none")), 0) << m_text;
-    const std::string whole = Read(Package());
-    for (const std::size_t size : {std::size_t{0}, std::size_t{512}, whole.size() / 2}) {
-        fs::resize_file(Package(), 0);
-        std::ofstream(Package()) << whole.substr(0, size);
-        EXPECT_EQ(Verify(), 1) << size;
-    }
-    // A checksum fails only where the data is read.
-    fs::remove_all(Out());
     std::string text;
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 5000; ++i) {
         text += std::to_string(i * i);
     }
     Put("Contents/Library/a", text);
-    ASSERT_EQ(Shell(Command("--format zip")), 0) << m_text;
-    std::string zip = Read(Package());
+    // A checksum fails only where the data is read.
+    ASSERT_EQ(Shell(Pack("--format zip")), 0) << m_text;
+    std::string zip = Read(kPackage);
     zip[zip.find("Library/a") + 500] ^= 1;
-    std::ofstream(Package()) << zip;
-    EXPECT_EQ(Verify(), 1);
-    ExpectLine("'Contents/Library/a' has data that cannot be read");
-    fs::remove(Package());
-    EXPECT_EQ(Verify(), 1);
-    EXPECT_NE(m_text.find("cannot be opened"), std::string::npos) << m_text;
+    std::ofstream(kPackage) << zip;
+    ExpectError(kVerify, "'Contents/Library/a' has data that cannot be read");
+    ASSERT_EQ(Shell("rm -r out; " + Pack("--filter none")), 0) << m_text;
+    for (const std::string size : {"20000", "512", "0"}) {
+        ExpectError("truncate -s " + size + " " + kPackage + "; " + kVerify, "");
+    }
+    ExpectError("rm " + kPackage + "; " + kVerify, "cannot be opened");
 }
 
 }  // namespace

@@ -1,7 +1,46 @@
-#include <QProcess>
+#include <fcntl.h>
+#include <spawn.h>
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QFile>
 #include <QString>
 
 #include "launch-services.h"
+
+namespace {
+
+/// What posix_spawn does before it starts the program: a session of its own and no standard
+/// streams, since the client outlives the launcher and must not hold its output open.
+class DetachedStart {
+public:
+    DetachedStart() {
+        posix_spawn_file_actions_init(&m_files);
+        posix_spawnattr_init(&m_attributes);
+        posix_spawn_file_actions_addopen(&m_files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        posix_spawn_file_actions_addopen(&m_files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_adddup2(&m_files, STDOUT_FILENO, STDERR_FILENO);
+        posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSID);
+    }
+    ~DetachedStart() {
+        posix_spawnattr_destroy(&m_attributes);
+        posix_spawn_file_actions_destroy(&m_files);
+    }
+    DetachedStart(const DetachedStart &) = delete;
+    DetachedStart &operator=(const DetachedStart &) = delete;
+
+    bool Run(QByteArray program) const {
+        char *arguments[] = {program.data(), nullptr};
+        pid_t pid = 0;
+        return posix_spawn(&pid, program.data(), &m_files, &m_attributes, arguments, environ) == 0;
+    }
+
+private:
+    posix_spawn_file_actions_t m_files;
+    posix_spawnattr_t m_attributes;
+};
+
+}  // namespace
 
 namespace LaunchServices {
 
@@ -10,13 +49,10 @@ int UnregisterBundle(const QString & /*bundle*/) {
 }
 
 bool OpenBundle(const QString &bundle) {
-    QProcess client;
-    client.setProgram(bundle + QStringLiteral("/Contents/MacOS/lumaris-backup-ui"));
-    // The client outlives the launcher; it must not hold the launcher's output open.
-    client.setStandardInputFile(QProcess::nullDevice());
-    client.setStandardOutputFile(QProcess::nullDevice());
-    client.setStandardErrorFile(QProcess::nullDevice());
-    return client.startDetached();  // in a session of its own
+    // Not QProcess: what it forks allocates memory before it becomes the client, while another
+    // thread may have held the allocator's lock.
+    return DetachedStart().Run(
+        QFile::encodeName(bundle + QStringLiteral("/Contents/MacOS/lumaris-backup-ui")));
 }
 
 }  // namespace LaunchServices
