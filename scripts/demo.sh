@@ -215,16 +215,16 @@ act_3() {
     say "== Act 3: build 121 over 120 while the client runs: stopped, replaced, started"
     new_home 3
     upgrade_to_121
-    check "the old client left when it was asked: no wait of five seconds" \
-        [ "$SECONDS_TAKEN" -lt 5 ]
+    check "the old client left because it was asked" \
+        grep -q "asked to end, pid $OLD_CLIENT\$" "$USER_DIR/log/client.log"
 }
 
 act_4() {
     say "== Act 4: the same with a client that ignores SIGTERM: killed after about five seconds"
     new_home 4
     upgrade_to_121 LUMARIS_CLIENT_IGNORE_SIGTERM=1
-    check "that took five to nine seconds ($SECONDS_TAKEN)" \
-        [ "$SECONDS_TAKEN" -ge 5 -a "$SECONDS_TAKEN" -le 9 ]
+    check "that took at least five seconds ($SECONDS_TAKEN), and not twice that" \
+        [ "$SECONDS_TAKEN" -ge 5 -a "$SECONDS_TAKEN" -lt 10 ]
 }
 
 act_5() {

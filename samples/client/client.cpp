@@ -1,5 +1,5 @@
-// A small client to install, start and stop: it keeps its pid file while it runs, notes every start
-// in log/client.log and ends on SIGTERM, unless LUMARIS_CLIENT_IGNORE_SIGTERM is set.
+// A small client to install, start and stop: it keeps its pid file while it runs, notes its start
+// and its end in log/client.log and ends on SIGTERM, unless LUMARIS_CLIENT_IGNORE_SIGTERM is set.
 
 #include <fcntl.h>
 #include <signal.h>
@@ -24,7 +24,7 @@ int ClaimPidFile(const std::string &pidFile) {
     return file;
 }
 
-void NoteStart(const std::string &logFile, const char *what) {
+void Note(const std::string &logFile, const char *what) {
     if (FILE *file = fopen(logFile.c_str(), "a")) {
         fprintf(file, "%s pid %ld\n", what, static_cast<long>(getpid()));
         fclose(file);
@@ -48,16 +48,17 @@ int main() {
     sigprocmask(SIG_BLOCK, &signals, nullptr);
 
     if (ClaimPidFile(pidFile) < 0) {
-        NoteStart(logFile, "already running, opened by");
+        Note(logFile, "already running, opened by");
         return 0;
     }
-    NoteStart(logFile, "started");
+    Note(logFile, "started");
 
     const bool ignore = getenv("LUMARIS_CLIENT_IGNORE_SIGTERM") != nullptr;
     int received = 0;
     do {
         sigwait(&signals, &received);
     } while (ignore);
+    Note(logFile, "asked to end,");
     remove(pidFile.c_str());
     return 0;
 }
