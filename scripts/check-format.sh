@@ -3,7 +3,7 @@
 # usage: scripts/check-format.sh [--fix]     --fix: formats the sources instead
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-install_packages "${PACKAGES[@]}" clang-format clang-tidy
+install_packages "${PACKAGES[@]}" git clang-format clang-tidy
 
 mapfile -t sources < <(git ls-files '*.cpp' '*.h')
 if [ "${1:-}" = --fix ]; then

@@ -103,6 +103,7 @@ __attribute__((format(printf, 1, 0))) int Write(char const *format, va_list args
         case Logger::TYPE_FILE:
             if (Logger::log_fp != nullptr) {
                 written = WriteTimeStamp(Logger::log_fp);
+                // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): started by the callers
                 written += vfprintf(Logger::log_fp, format, args);
                 fflush(Logger::log_fp);
             }

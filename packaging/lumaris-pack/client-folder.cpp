@@ -36,7 +36,7 @@ public:
         try {
             for (const fs::directory_entry &item : fs::directory_iterator(path)) {
                 const std::string leaf = item.path().filename().native();
-                Add(parent.empty() ? leaf : parent + "/" + leaf);
+                Add((fs::path(parent) / leaf).native());
             }
         } catch (const fs::filesystem_error &error) {
             throw PackageError("cannot list " + Quoted(path), error.code().value());

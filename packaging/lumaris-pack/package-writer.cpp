@@ -30,7 +30,7 @@ constexpr PackageCoding kFilters[] = {
     {"zstd", ARCHIVE_FILTER_ZSTD, 1, kDefaultZstdLevel, 22},
 };
 
-constexpr std::size_t kBlockSize = 128 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{128} * 1024;
 
 template <std::size_t N>
 const PackageCoding *FindCoding(const PackageCoding (&codings)[N], const std::string &name) {

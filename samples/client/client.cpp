@@ -55,9 +55,11 @@ int main() {
 
     const bool ignore = getenv("LUMARIS_CLIENT_IGNORE_SIGTERM") != nullptr;
     int received = 0;
-    do {
+    for (;;) {
         sigwait(&signals, &received);
-    } while (ignore);
+        if (!ignore)
+            break;
+    }
     Note(logFile, "asked to end,");
     remove(pidFile.c_str());
     return 0;

@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QThread>
 #include <QTimer>
+#include <atomic>
 
 #include "mac/mac-service.h"
 #include "notify-adapter.h"
@@ -18,6 +19,7 @@ using Calls = std::vector<std::string>;
 Calls calls;
 bool upgrade_needed = true;
 int upgrade_result = 0;
+std::atomic<bool> opened{false};
 unsigned long decision_ms = 0;
 QThread *service_thread = nullptr;
 
@@ -47,6 +49,7 @@ int MacService::HandlePackageUpgrade() {
 }
 void MacService::PostUpgrade() {
     calls.push_back("PostUpgrade");
+    opened = true;
 }
 
 namespace {
@@ -67,6 +70,7 @@ protected:
         upgrade_needed = true;
         upgrade_result = 0;
         decision_ms = 0;
+        opened = false;
     }
     /// One run to its end; returns what the dialog showed: every value with the first letter of
     /// the label then and "h" when hidden, and the last label.
@@ -143,7 +147,7 @@ TEST_F(LauncherTest, QuitFromTheDesktopWaitsForTheRun) {
         QTimer::singleShot(100, qApp,
                            [] { QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit)); });
         EXPECT_EQ(0, QApplication::exec());
-        EXPECT_EQ("IsNeedUpgrade", calls.back()) << "the loop ends before the run does";
+        EXPECT_FALSE(opened) << "the loop ends before the run does";
     }
     ASSERT_EQ(4u, calls.size());
     EXPECT_EQ("PostUpgrade", calls[2]);
