@@ -13,6 +13,9 @@ PACKAGES=(
     fonts-liberation fonts-noto-cjk
 )
 
+# For the preset qt6; the demo client is still made of files of Qt 5.
+QT6_PACKAGES=(qt6-base-dev qt6-base-dev-tools qt6-l10n-tools)
+
 say() { printf '%s\n' "$*"; }
 
 die() {

@@ -1,9 +1,9 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
-#include <QTextCodec>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <limits>
 #include <stdexcept>
@@ -164,10 +164,10 @@ ExitStatus Verify(const QCommandLineParser &parser) {
     return kSuccess;
 }
 
-ExitStatus Run(QCoreApplication &application) {
+ExitStatus Run(const QStringList &arguments) {
     QCommandLineParser parser;
     AddOptions(parser);
-    if (!parser.parse(application.arguments())) {
+    if (!parser.parse(arguments)) {
         throw UsageError(parser.errorText().toStdString());
     }
     if (parser.isSet(QStringLiteral("help"))) {
@@ -179,13 +179,15 @@ ExitStatus Run(QCoreApplication &application) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    // Paths on the command line are UTF-8 whatever the locale; Qt would ask the locale.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    // Paths on the command line are UTF-8 whatever the locale; Qt 5 would ask the locale and Qt 6
+    // complain about another one.
+    setenv("LC_ALL", "C.UTF-8", 1);
     QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();  // settles how Qt 5 reads names
     QCoreApplication::setApplicationName(QStringLiteral("lumaris-pack"));
     PinArchiveEnvironment();
     try {
-        return Run(application);
+        return Run(arguments);
     } catch (const UsageError &error) {
         PrintLine(error.what());
         return kWrongUsage;
