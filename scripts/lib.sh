@@ -9,7 +9,7 @@ cd "$ROOT"
 PACKAGES=(
     g++ cmake ninja-build
     qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libgtest-dev
-    xvfb openbox xdotool x11-utils imagemagick time procps
+    dpkg-dev file xvfb openbox xdotool x11-utils imagemagick time procps
     fonts-liberation fonts-noto-cjk
 )
 
