@@ -232,6 +232,16 @@ TEST_F(LumarisPack, TheSameFolderGivesTheSameBytes) {
     }
 }
 
+TEST_F(LumarisPack, TwentyThousandFiles) {
+    for (int i = 0; i < 20000; ++i) {
+        Put("Contents/Resources/" + std::to_string(i % 20) + "/" + std::to_string(i),
+            std::to_string(i));
+    }
+    ASSERT_EQ(Shell(Command()), 0) << m_text;
+    ASSERT_EQ(Verify(), 0) << m_text;
+    EXPECT_EQ(m_text, "20027 entries\n");  // 24 folders and three files of the client besides
+}
+
 TEST_F(LumarisPack, RefusesWhatTheLauncherCannotInstall) {
     const auto mode = [this](const std::string &name, mode_t bits) {
         ASSERT_EQ(chmod((App() + "/" + name).c_str(), bits), 0);
