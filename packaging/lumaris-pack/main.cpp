@@ -53,7 +53,7 @@ void AddOptions(QCommandLineParser &parser) {
     add("build", "N", "Build number; the launcher installs a package with a greater one.");
     add("icon-overlay", "N", "Version of the icon overlay (1).", "1");
     add("format", "FORMAT", "gnutar (default), zip, pax, or 7zip to compare sizes.", "gnutar");
-    add("filter", "FILTER", "none, gzip, xz or zstd (default; none for zip and 7zip).");
+    add("filter", "FILTER", "none, gzip, zstd or xz (default; none for zip and 7zip).");
     add("level", "N", "Compression level of the filter, or of zip and 7zip.");
     add("verify", "FILE", "List what speaks against the package FILE.");
     parser.addPositionalArgument(QStringLiteral("Client.app"), QStringLiteral("Client bundle."));
@@ -96,7 +96,8 @@ PackageOptions ReadOptions(const QCommandLineParser &parser) {
     if (format == nullptr) {
         throw UsageError("there is no format " + Quoted(value("format")));
     }
-    const std::string initial = format->Compresses() ? "none" : "zstd";
+    // The only one of them whose content has a checksum that the archive library looks at.
+    const std::string initial = format->Compresses() ? "none" : "xz";
     const std::string name = value("filter").empty() ? initial : value("filter");
     const PackageCoding *filter = FindFilter(name);
     if (filter == nullptr) {

@@ -404,6 +404,16 @@ TEST_F(LumarisPack, VerifyRefusesDamage) {
         std::ofstream(Package()) << whole.substr(0, size);
         EXPECT_EQ(Verify(), 1) << size;
     }
+    // One flipped bit, wherever it lies: the default is chosen for that.
+    fs::remove_all(Out());
+    ASSERT_EQ(Shell(Command("")), 0) << m_text;
+    const std::string packed = Read(Package());
+    for (std::size_t i = packed.size() / 20; i < packed.size(); i += packed.size() / 20) {
+        std::string flipped = packed;
+        flipped[i] ^= 1;
+        std::ofstream(Package()) << flipped;
+        EXPECT_EQ(Verify(), 1) << i;
+    }
     // A checksum fails only where the data is read.
     fs::remove_all(Out());
     std::string text;
