@@ -10,9 +10,12 @@ cd "$ROOT"
 PACKAGES=(
     g++ cmake ninja-build
     qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libgtest-dev
-    xvfb openbox xdotool x11-utils imagemagick time procps zstd
+    dpkg-dev file zstd xvfb openbox xdotool x11-utils imagemagick time procps
     fonts-liberation fonts-noto-cjk
 )
+
+# For the preset qt6; the demo client is still made of files of Qt 5.
+QT6_PACKAGES=(qt6-base-dev qt6-base-dev-tools qt6-l10n-tools)
 
 say() { printf '%s\n' "$*"; }
 

@@ -1,9 +1,9 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
-#include <QTextCodec>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <limits>
 #include <stdexcept>
@@ -53,7 +53,7 @@ void AddOptions(QCommandLineParser &parser) {
     add("build", "N", "Build number; the launcher installs a package with a greater one.");
     add("icon-overlay", "N", "Version of the icon overlay (1).", "1");
     add("format", "FORMAT", "gnutar (default), zip, pax, or 7zip to compare sizes.", "gnutar");
-    add("filter", "FILTER", "none, gzip, xz or zstd (default; none for zip and 7zip).");
+    add("filter", "FILTER", "none, gzip, zstd or xz (default; none for zip and 7zip).");
     add("level", "N", "Compression level of the filter, or of zip and 7zip.");
     add("verify", "FILE", "List what speaks against the package FILE.");
     parser.addPositionalArgument(QStringLiteral("Client.app"), QStringLiteral("Client bundle."));
@@ -96,7 +96,8 @@ PackageOptions ReadOptions(const QCommandLineParser &parser) {
     if (format == nullptr) {
         throw UsageError("there is no format " + Quoted(value("format")));
     }
-    const std::string initial = format->Compresses() ? "none" : "zstd";
+    // The only one of them whose content has a checksum that the archive library looks at.
+    const std::string initial = format->Compresses() ? "none" : "xz";
     const std::string name = value("filter").empty() ? initial : value("filter");
     const PackageCoding *filter = FindFilter(name);
     if (filter == nullptr) {
@@ -164,10 +165,10 @@ ExitStatus Verify(const QCommandLineParser &parser) {
     return kSuccess;
 }
 
-ExitStatus Run(QCoreApplication &application) {
+ExitStatus Run(const QStringList &arguments) {
     QCommandLineParser parser;
     AddOptions(parser);
-    if (!parser.parse(application.arguments())) {
+    if (!parser.parse(arguments)) {
         throw UsageError(parser.errorText().toStdString());
     }
     if (parser.isSet(QStringLiteral("help"))) {
@@ -179,13 +180,15 @@ ExitStatus Run(QCoreApplication &application) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    // Paths on the command line are UTF-8 whatever the locale; Qt would ask the locale.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    // Paths on the command line are UTF-8 whatever the locale; Qt 5 would ask the locale and Qt 6
+    // complain about another one.
+    setenv("LC_ALL", "C.UTF-8", 1);
     QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();  // settles how Qt 5 reads names
     QCoreApplication::setApplicationName(QStringLiteral("lumaris-pack"));
     PinArchiveEnvironment();
     try {
-        return Run(application);
+        return Run(arguments);
     } catch (const UsageError &error) {
         PrintLine(error.what());
         return kWrongUsage;

@@ -1,8 +1,6 @@
 #include "package-rules.h"
 
-#include <QByteArray>
 #include <QString>
-#include <QTextCodec>
 #include <algorithm>
 #include <deque>
 
@@ -12,10 +10,10 @@ namespace {
 constexpr int kMaxLinks = 40;
 
 bool IsUtf8(const std::string &text) {
-    static QTextCodec *const codec = QTextCodec::codecForName("UTF-8");
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    codec->toUnicode(text.data(), static_cast<int>(text.size()), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    // Malformed bytes come back as others. A byte order mark would be dropped at the very
+    // beginning.
+    const std::string bytes = "/" + text;
+    return QString::fromStdString(bytes).toStdString() == bytes;
 }
 
 using Steps = std::deque<std::string>;

@@ -27,7 +27,7 @@ constexpr PackageCoding kFilters[] = {
     {"none", ARCHIVE_FILTER_NONE, 0, 0, 0},
     {"gzip", ARCHIVE_FILTER_GZIP, 1, 9, 9},
     {"xz", ARCHIVE_FILTER_XZ, 0, 6, 9},
-    {"zstd", ARCHIVE_FILTER_ZSTD, 1, kDefaultZstdLevel, 22},
+    {"zstd", ARCHIVE_FILTER_ZSTD, 1, 19, 22},
 };
 
 constexpr std::size_t kBlockSize = std::size_t{128} * 1024;

@@ -7,9 +7,6 @@
 
 #include "client-folder.h"
 
-/// Levels 1 to 22; a package is built once and unpacked on every machine.
-inline constexpr int kDefaultZstdLevel = 19;
-
 /// A format or filter by its name on the command line. Where nothing is compressed, all three
 /// levels are 0.
 struct PackageCoding {

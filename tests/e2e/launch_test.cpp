@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <signal.h>
 
+#include <algorithm>
 #include <chrono>
 
 #include "test-support.h"
@@ -130,6 +131,53 @@ TEST_F(LaunchTest, InstallsUpgradesAndLeavesAlone) {
     EXPECT_FALSE(fs::exists(lumaris / "Lumaris.app_tmp") || fs::exists(lumaris / "app"));
     EXPECT_EQ(std::string::npos, LauncherLog().find("[ERROR]")) << LauncherLog();
     EXPECT_EQ("", Lock());
+}
+
+/// Names with type, permissions and content or target, one a line.
+std::string Tree(const fs::path &root) {
+    std::vector<std::string> lines;
+    for (const auto &entry : fs::recursive_directory_iterator(root)) {
+        const fs::file_status status = entry.symlink_status();
+        lines.push_back(entry.path().lexically_relative(root).string() + " " +
+                        std::to_string(static_cast<int>(status.type())) + " " +
+                        std::to_string(static_cast<unsigned>(status.permissions())) + " " +
+                        (entry.is_symlink()        ? fs::read_symlink(entry).string()
+                         : entry.is_regular_file() ? ReadFile(entry)
+                                                   : std::string()));
+    }
+    std::sort(lines.begin(), lines.end());
+    std::string tree;
+    for (const std::string &line : lines)
+        tree += line + "\n";
+    return tree;
+}
+
+TEST_F(LaunchTest, WhatIsPackedIsInstalled) {
+    const fs::path client = root / "Client.app", contents = client / "Contents";
+    WriteFile(contents / "Resources/INFO",
+              "[Version]\nmajor_version=2\nminor_version=5\nbuild_version=123\n"
+              "icon_overlay_version=1\n");
+    WriteFile(contents / "Resources" / std::string(200, 'n'), std::string(300000, '\0') + "end");
+    WriteFile(contents / "Resources/Gru\xcc\x88\xc3\x9f \"quoted\"", "");
+    WriteFile(contents / "Resources/secret", "x");
+    fs::permissions(contents / "Resources/secret", fs::perms(0400));
+    fs::create_hard_link(contents / "Resources/secret", contents / "Resources/secret too");
+    fs::create_directories(contents / "MacOS");
+    fs::copy(CLIENT, contents / "MacOS/lumaris-backup-ui");
+    fs::create_directories(contents / "Frameworks/A/Versions/5/Empty");
+    fs::permissions(contents / "Frameworks/A/Versions/5/Empty", fs::perms(0700));
+    fs::create_directory_symlink("5", contents / "Frameworks/A/Versions/Current");
+    fs::create_symlink("Versions/Current/none yet", contents / "Frameworks/A/A");
+
+    const fs::path out = root / "packed";
+    ASSERT_EQ(0, system((LUMARIS_PACK " --level 1 --major 2 --minor 5 --build 123 '" +
+                         client.string() + "' '" + out.string() + "'")
+                            .c_str()));
+    fs::rename(out / "package/lumaris.wpk", resources / "package/lumaris.wpk");
+    fs::rename(out / "INFO", resources / "INFO");
+    EXPECT_EQ(0, Launch()) << Err();
+    EXPECT_TRUE(ClientRuns()) << LauncherLog();
+    EXPECT_TRUE(Tree(client) == Tree(app)) << LauncherLog();
 }
 
 TEST_F(LaunchTest, BadPackageKeepsTheOldInstallation) {

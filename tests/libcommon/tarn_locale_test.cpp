@@ -24,7 +24,7 @@ std::string LanguageUnder(const char *locale, bool embedded = true) {
             while (QFile::exists(QStringLiteral(":/enu.qm")))
                 qCleanupResources_texts();
         const QString code = TarnLocale::getDefaultLanguage();
-        _exit(TarnLocale::getSupportedLanguages().indexOf(code));
+        _exit(static_cast<int>(TarnLocale::getSupportedLanguages().indexOf(code)));
     }
     int status = 0;
     waitpid(child, &status, 0);

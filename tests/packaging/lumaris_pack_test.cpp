@@ -127,6 +127,15 @@ TEST_F(LumarisPack, TheSameFolderGivesTheSameBytes) {
     EXPECT_EQ(Read(kPackage).substr(4, 4), std::string(4, '\0'));
 }
 
+TEST_F(LumarisPack, TwentyThousandFiles) {
+    ASSERT_EQ(Shell(InClient("cd Resources; for i in $(seq 20); do mkdir $i; done; seq 20000 | "
+                             "split -a 5 -d -l 1 - 1/f; mv 1/f*5 20/") +
+                    Pack() + " && " + kVerify),
+              0)
+        << m_text;
+    EXPECT_EQ(m_text, "20027 entries\n");  // 24 folders and three files of the client besides
+}
+
 TEST_F(LumarisPack, RefusesWhatTheLauncherCannotInstall) {
     const std::pair<std::string, std::string> cases[] = {
         {"rm MacOS/*", "'" + kExecutable + "' is missing"},
@@ -219,6 +228,16 @@ TEST_F(LumarisPack, VerifyNamesWhatTheLauncherWouldRefuse) {
     for (const auto &[make, line] : cases) {
         EXPECT_EQ(Shell(begin + make + "; cd ..; " + kVerify), 1) << make;
         EXPECT_NE(m_text.find(line), std::string::npos) << line + m_text;
+    }
+    // One flipped bit, wherever it lies: the default is chosen for that.
+    MakeClient();
+    ASSERT_EQ(Shell("rm -r out; " + Pack("")), 0) << m_text;
+    const std::string packed = Read(kPackage);
+    for (std::size_t i = packed.size() / 20; i < packed.size(); i += packed.size() / 20) {
+        std::string flipped = packed;
+        flipped[i] ^= 1;
+        std::ofstream(kPackage) << flipped;
+        EXPECT_EQ(Shell(kVerify), 1) << i;
     }
     // A checksum fails only where the data is read.
     MakeClient();

@@ -42,9 +42,9 @@ void OpenLog() {
 
 /// Installs the user's language; without a catalogue the texts stay English.
 void InstallTranslation(QTranslator &translator) {
-    translator.load(QStringLiteral(":/") + TarnLocale::getDefaultLanguage() +
-                    QStringLiteral(".qm"));
-    if (!translator.isEmpty())
+    const QString catalogue =
+        QStringLiteral(":/") + TarnLocale::getDefaultLanguage() + QStringLiteral(".qm");
+    if (translator.load(catalogue) && !translator.isEmpty())
         QCoreApplication::installTranslator(&translator);
 }
 
