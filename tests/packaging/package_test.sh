@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Makes the Debian package, unpacks it into a temporary folder (nothing is installed) and starts the
-# launcher in it with a fresh home folder: the client has to be installed, complete and running.
+# Makes the Debian package, installs it below a temporary root with a package database of its own (the
+# machine's stays as it is) and starts the launcher in it with a fresh home folder: the client has to
+# be installed, complete and running.
 # usage: package_test.sh CPACK BUILD_FOLDER
 set -euo pipefail
 cpack=$1 build=$2
@@ -31,7 +32,11 @@ deb=$(echo "$work"/out/*.deb)
 for library in libqt libarchive13 libicu; do
     [[ $(dpkg-deb -f "$deb" Depends) == *$library* ]] || fail "the package does not depend on $library"
 done
-dpkg-deb -x "$deb" "$work/root"
+mkdir -p "$work/root/var/lib/dpkg/info" "$work/root/var/lib/dpkg/updates"
+touch "$work/root/var/lib/dpkg/status"
+# The libraries that it depends on are the machine's and not in that root.
+PATH=$PATH:/usr/sbin:/sbin dpkg --root="$work/root" --force-depends --force-not-root --log=/dev/null \
+    -i "$deb" >"$work/dpkg.log" 2>&1 || fail "not installable: $(cat "$work/dpkg.log")"
 installed=$work/root/opt/lumaris
 bundle=$installed/LumarisLauncher.app
 "$installed/bin/lumaris-pack" --verify "$bundle/Contents/Resources/package/lumaris.wpk" >/dev/null ||
