@@ -28,10 +28,13 @@ source scripts/sanitizers.sh
 mkdir -p "$DEMO"
 WORK=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-demo.XXXXXX")
 
-# Ends what still runs from the work folder (launchers and clients), then removes it.
+# Ends what still runs, launchers and clients from the work folder included, then removes that.
 clean_up() {
     stop_display
     local process
+    for process in $(jobs -p); do
+        kill "$process" 2>/dev/null || true
+    done
     for process in /proc/[0-9]*; do
         [[ "$(readlink "$process/exe" 2>/dev/null)" == "$WORK"/* ]] &&
             kill -9 "${process#/proc/}" 2>/dev/null

@@ -12,7 +12,6 @@
 #include <vector>
 
 namespace fs = std::filesystem;
-using namespace testing::internal;  // CaptureStderr and its kin
 
 namespace {
 
@@ -55,14 +54,6 @@ protected:
     const std::string m_folder = mkdtemp(m_name), m_path = m_folder + "/launcher.log";
 };
 
-// First in the file: nothing has called Initialize yet.
-TEST(LoggerInitially, WritesWarningsToStandardError) {
-    CaptureStderr();
-    Log("note\n", Logger::LEVEL_NOTE);
-    Log("warning\n", Logger::LEVEL_WARNING);
-    EXPECT_EQ(AfterStamp(GetCapturedStderr()), "warning\n");
-}
-
 TEST_F(LoggerTest, ThresholdsPerComponent) {
     const std::tuple<const char *, Logger::Level, bool> cases[] = {
         {"", Logger::LEVEL_WARNING, true},
@@ -80,18 +71,6 @@ TEST_F(LoggerTest, ThresholdsPerComponent) {
         Log("text\n", level);
         EXPECT_EQ(fs::file_size(m_path) > before, written) << level << ": " << levels;
     }
-}
-
-TEST_F(LoggerTest, StampsLocalTimeAndAddsNoLineEnd) {
-    setenv("TZ", "XYZ-5:30", 1);
-    const time_t now = time(nullptr);
-    struct tm stamp = *localtime(&now);  // for the year, which the log leaves out
-    Log("one, ");
-    Log("two\n");
-    strptime(Read(m_path).c_str(), "%b %d %H:%M:%S ", &stamp);
-    EXPECT_NEAR(static_cast<double>(mktime(&stamp)), static_cast<double>(now), 10);
-    EXPECT_EQ(AfterStamp(AfterStamp(Read(m_path)).substr(5)), "two\n");
-    unsetenv("TZ");
 }
 
 TEST_F(LoggerTest, RotatesBeyondOneMebibyteOfItsOwn) {
@@ -121,19 +100,6 @@ TEST_F(LoggerTest, FailedInitializeKeepsTheEarlierStream) {
     Log(ONE_BYTE_MORE);
     Log("last\n");
     EXPECT_EQ(fs::file_size(m_path), LIMIT + 1 + STAMP + 5);
-
-    Logger::Initialize(Logger::TYPE_STDERR, "", "", 50);
-    CaptureStderr();
-    EXPECT_EQ(Start(""), -1);
-    Log(ONE_BYTE_MORE);
-    Logger::ReloadLogFile();
-    Log("second\n");
-    Logger::Destroy();
-    CaptureStdout();
-    Log("lost\n");
-    EXPECT_EQ(GetCapturedStdout(), "");
-    fputs("still open", stderr);
-    EXPECT_EQ(AfterStamp(GetCapturedStderr().substr(LIMIT + 1)), "second\nstill open");
 }
 
 TEST_F(LoggerTest, DropsMessagesAfterAFailedRotationUntilReload) {

@@ -71,20 +71,6 @@ TEST(UstringTest, SearchesFollowTheirRulesInEveryForm) {
     EXPECT_EQ(npos, text.find("ba", 1003));
 }
 
-TEST(UstringTest, TrimsBytesOfTheSet) {
-    const char *const cases[][5] = {{"abcab", "ab", "cab", "abc", "c"},
-                                    {"  ", " ", "", "", ""},
-                                    {" a ", "", " a ", " a ", " a "}};
-    for (const auto &[text, set, left, right, both] : cases) {
-        ustring l(text), r(text), b(text);
-        b.c_str_utf16();
-        l.ltrim(set), r.rtrim(ustring(set)), b.trim(set);
-        expect_text(l, left);
-        expect_text(r, right);
-        expect_text(b, both);
-    }
-}
-
 TEST(UstringTest, OrdersByUnsignedBytes) {
     const std::tuple<const char *, const char *, int, int> cases[] = {
         {"", "", 0, 0},
@@ -106,48 +92,26 @@ TEST(UstringTest, OrdersByUnsignedBytes) {
     EXPECT_EQ(-1, ustring("abX").compare("abY", 3));
 }
 
-/// Appends to one text and replaces another, both with their UTF-16 form built.
-template <typename... Source>
-void expect_source(const std::string &text, const Source &...source) {
-    ustring appended("1"), assigned("longer than before");
-    appended.c_str_utf16(), assigned.c_str_utf16();
-    if constexpr (sizeof...(source) > 1)
-        appended.append(source...), assigned.assign(source...);
-    else
-        ((appended += source, assigned = source), ...);
-    expect_text(appended, "1" + text);
-    expect_text(assigned, text);
-}
-
-TEST(UstringTest, TakesEveryKindOfSource) {
-    const std::string cut("ab\0cd", 5);
-    const unsigned short unit = 0xE9;
-    expect_source("bc", ustring("abc"), 1UL, npos);
-    expect_source("ab", "abc", 2UL);
-    expect_source("\xC3\xA9", e_acute_x, 1UL);
-    expect_source("\xC3\xA9x", e_acute_x, 9UL);
-    expect_source("b", cut, 1UL, npos);
-    expect_source("xxx", 'x', 3UL);
-    expect_source("\xC3\xA9\xC3\xA9", unit, 2UL);
-    expect_source("ab", ustring("ab"));
-    expect_source("ab", cut);
-    expect_source("ab", "ab");
-    expect_source("\xC3\xA9x", e_acute_x);
-    expect_source("\xC3\xA9", unit);
-    expect_text(ustring('x') + ustring(cut) + "b" + 'c' + e_acute_x + unit,
-                "xabbc\xC3\xA9x\xC3\xA9");
-    expect_text(ustring("abcd").substr(1, 2) + ustring("abc").substr(3, npos), "bc");
-    EXPECT_THROW(ustring("abc").substr(4, 0), std::out_of_range);
-    EXPECT_THROW(ustring().append(std::string(), 1, 1), std::out_of_range);
-}
-
-TEST(UstringTest, AcceptsItsOwnBuffersAsSource) {
+TEST(UstringTest, EditsTakeAnySourceAndDropTheUtf16Form) {
     const auto check = [](const char *expected, auto edit) {
         ustring s("abcdef");
         s.c_str_utf16();
         edit(s);
         expect_text(s, expected);
     };
+    const std::string cut("xy\0z", 4);
+    check("abcdefbc", [](ustring &s) { s.append(ustring("abc"), 1, npos); });
+    check("abcdefxy", [&](ustring &s) { s += cut; });
+    check("abcdef\xC3\xA9x", [](ustring &s) { s += e_acute_x; });
+    check("abcdef...", [](ustring &s) { s.append('.', 3); });
+    check("xy", [](ustring &s) { s.assign("xyz", 2); });
+    check("y", [&](ustring &s) { s.assign(cut, 1, npos); });
+    check("\xC3\xA9x", [](ustring &s) { s.assign(e_acute_x, 9); });
+    check("ab:def", [](ustring &s) { s.replace('c', ':'); });
+    check("cd", [](ustring &s) { s.trim("bafe"); });
+    check("", [](ustring &s) { s.clear(); });
+    check("bcxd", [](ustring &s) { s = s.substr(1, 2) + "x" + 'd' + s.substr(6, npos); });
+    // Its own buffers as well.
     check("abcdefcd", [](ustring &s) { s.append(s.c_str() + 2, 2); });
     check("abcdefabcdef", [](ustring &s) { s.append(s.c_str_utf16()); });
     check("abcdef", [](ustring &s) { s = s.c_str(); });
@@ -158,18 +122,6 @@ TEST(UstringTest, AcceptsItsOwnBuffersAsSource) {
     for (int i = 0; i < 12; ++i)
         doubled.append(doubled.c_str());
     expect_text(doubled, std::string(4096, 'a'));
-}
-
-TEST(UstringTest, EditsDropTheUtf16Form) {
-    ustring s("/ab"), other(e_acute_x);
-    expect_text(s, "/ab");
-    s.replace('/', ':');
-    expect_text(s, ":ab");
-    swap(s, other);
-    EXPECT_EQ(u"\u00E9x", utf16(s));
-    expect_text(other, ":ab");
-    s.clear();
-    expect_text(s, "");
 }
 
 TEST(UstringTest, BuffersFitTheText) {
@@ -185,6 +137,7 @@ TEST(UstringTest, BuffersFitTheText) {
     EXPECT_EQ(5u, access::wide_length(s));  // an edit of the UTF-16 form keeps it
     EXPECT_EQ(6u, access::wide_capacity(s));
     EXPECT_EQ(8u, access::capacity(s));
+    EXPECT_THROW(s.substr(9, 0), std::out_of_range);
     EXPECT_THROW(s.append('x', npos), std::bad_alloc);
     EXPECT_THROW(s.append(e_acute_x[0], npos / 2), std::bad_alloc);
     expect_text(s, "a\xC3\xA9x\xC3\xA9x");
