@@ -1,6 +1,7 @@
 #include "tmp-name-gen.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <ctime>
@@ -28,7 +29,9 @@ TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
 }
 
 TEST(TmpNameGen, SeedsFromTheClock) {
-    Generator gen, same;
+    Generator gen;
+    usleep(10);  // into another microsecond
+    Generator same;
     const std::string seed(reinterpret_cast<const char *>(gen.m_key));
     EXPECT_NEAR(static_cast<double>(time(nullptr)), std::stod(seed), 10);
     EXPECT_NE(seed, reinterpret_cast<const char *>(same.m_key));  // the microseconds follow
