@@ -52,8 +52,9 @@ void AddOptions(QCommandLineParser &parser) {
     add("minor", "N", "Minor version.");
     add("build", "N", "Build number; the launcher installs a package with a greater one.");
     add("icon-overlay", "N", "Version of the icon overlay (1).", "1");
-    add("format", "FORMAT", "gnutar (default), zip, pax, or 7zip to compare sizes.", "gnutar");
-    add("filter", "FILTER", "none, gzip, zstd or xz (default; none for zip and 7zip).");
+    add("format", "FORMAT",
+        "zip (default), gnutar (default with --filter), pax, or 7zip to compare sizes.");
+    add("filter", "FILTER", "none, gzip, zstd or xz (default of gnutar and pax).");
     add("level", "N", "Compression level of the filter, or of zip and 7zip.");
     add("verify", "FILE", "List what speaks against the package FILE.");
     parser.addPositionalArgument(QStringLiteral("Client.app"), QStringLiteral("Client bundle."));
@@ -92,13 +93,17 @@ PackageOptions ReadOptions(const QCommandLineParser &parser) {
     const auto value = [&parser](const char *name) {
         return parser.value(QLatin1String(name)).toStdString();
     };
-    const PackageCoding *format = FindFormat(value("format"));
+    // The launcher counts the entries before it installs them: zip has a directory for that, and
+    // checksums of the content that the archive library looks at.
+    const std::string initial_format = value("filter").empty() ? "zip" : "gnutar";
+    const std::string format_name = value("format").empty() ? initial_format : value("format");
+    const PackageCoding *format = FindFormat(format_name);
     if (format == nullptr) {
-        throw UsageError("there is no format " + Quoted(value("format")));
+        throw UsageError("there is no format " + Quoted(format_name));
     }
-    // The only one of them whose content has a checksum that the archive library looks at.
-    const std::string initial = format->Compresses() ? "none" : "xz";
-    const std::string name = value("filter").empty() ? initial : value("filter");
+    // The only filter whose content has a checksum that the archive library looks at.
+    const std::string initial_filter = format->Compresses() ? "none" : "xz";
+    const std::string name = value("filter").empty() ? initial_filter : value("filter");
     const PackageCoding *filter = FindFilter(name);
     if (filter == nullptr) {
         throw UsageError("there is no filter " + Quoted(name));

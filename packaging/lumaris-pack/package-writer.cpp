@@ -19,7 +19,7 @@ namespace {
 constexpr PackageCoding kFormats[] = {
     {"gnutar", ARCHIVE_FORMAT_TAR_GNUTAR, 0, 0, 0},
     {"pax", ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE, 0, 0, 0},
-    {"zip", ARCHIVE_FORMAT_ZIP, 1, 9, 9},
+    {"zip", ARCHIVE_FORMAT_ZIP, 1, 6, 9},
     {"7zip", ARCHIVE_FORMAT_7ZIP, 1, 9, 9},
 };
 
@@ -93,6 +93,12 @@ private:
         }
         if (format.code == ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE) {
             SetFormatOption("hdrcharset", "BINARY");
+        }
+        if (format.code == ARCHIVE_FORMAT_ZIP) {
+            // The directory at the end holds types and permissions; this repeats them beside each
+            // entry. When that directory is cut off, the reader goes by the entries alone and would
+            // make every link a file and the client no program, without a word.
+            SetFormatOption("experimental", "1");
         }
     }
 
