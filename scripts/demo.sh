@@ -76,7 +76,7 @@ new_bundle() {
 make_package() {
     [ -d "$WORK/package-$1" ] && return
     "$ROOT/packaging/demo/stage-client.sh" "$1" "$CLIENT" "$WORK/client-$1/Lumaris.app" >/dev/null
-    "$PACK" --filter zstd --level 3 --major 2 --minor 5 --build "$1" "$WORK/client-$1/Lumaris.app" \
+    "$PACK" --level 1 --major 2 --minor 5 --build "$1" "$WORK/client-$1/Lumaris.app" \
         "$WORK/package-$1"
 }
 
@@ -291,7 +291,7 @@ act_7() {
     printf '[Version]\nmajor_version=2\nminor_version=5\nbuild_version=130\nicon_overlay_version=1\n' \
         > "$client/Contents/Resources/INFO"
     (cd "$files" && seq 100000 | split -a 5 -d -l 1 - entry-)
-    "$PACK" --filter zstd --level 3 --major 2 --minor 5 --build 130 "$client" "$WORK/package-many"
+    "$PACK" --level 1 --major 2 --minor 5 --build 130 "$client" "$WORK/package-many"
     cp "$WORK/package-many/package/lumaris.wpk" "$BUNDLE/Contents/Resources/package/"
     cp "$WORK/package-many/INFO" "$BUNDLE/Contents/Resources/INFO"
 
