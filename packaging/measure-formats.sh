@@ -10,9 +10,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(realpath "${1:-build}") rounds=${2:-5}
 readonly MIN_BYTES=$((80 * 1000 * 1000))
 readonly FLIPS=25
-readonly CODINGS=("--format zip --level 1" "--format zip --level 6" "--filter xz"
-                  "--filter gzip --level 6" "--filter zstd --level 3" "--filter zstd --level 12"
-                  "--filter zstd --level 19" "--format 7zip --level 6")
+readonly CODINGS=("--format zip --level 6" "--format zip --level 1" "--filter xz"
+                  "--filter zstd --level 3" "--filter zstd --level 12" "--filter none")
 
 command -v bsdtar >/dev/null || { echo "measure-formats: install libarchive-tools" >&2; exit 1; }
 
@@ -32,10 +31,6 @@ stage() {
             (($(stat -L -c %s "$library") < 500000)) ||
                 install -m 755 "$library" "$app/Contents/Frameworks/"
         done
-    # 7zip takes no other names; without these four tiny files every format packs the same.
-    find "$app" -name '*[! -~]*' -delete
-    ln -sf "$(basename "$(echo "$app"/Contents/Resources/help/0*)")" \
-        "$app/Contents/Resources/help/index.txt"
 }
 
 app=$work/Lumaris.app
@@ -71,6 +66,8 @@ for i in "${!CODINGS[@]}"; do
     # shellcheck disable=SC2206 # several options
     options=(${CODINGS[i]})
     packing[i]=$(seconds "$pack" --build 121 --major 2 --minor 5 "${options[@]}" "$app" "$work/$i")
+    "$timing" "$work/$i/package/lumaris.wpk" "$work/installed" >/dev/null
+    diff -r --no-dereference "$app" "$work/installed"
     found[i]=$(noticed "$work/$i/package/lumaris.wpk")
 done
 
@@ -82,7 +79,6 @@ for ((round = 1; round <= rounds; ++round)); do
         mkdir "$work/peer"
         read -r count install < <("$timing" "$package" "$work/installed")
         peer=$(seconds bsdtar -C "$work/peer" -xf "$package")
-        diff -r --no-dereference "$app" "$work/installed"
         echo "${CODINGS[i]};$(stat -c %s "$package");${packing[i]};$count;$install;$peer;${found[i]}"
     done
 done > "$work/results"

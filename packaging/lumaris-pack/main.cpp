@@ -52,10 +52,9 @@ void AddOptions(QCommandLineParser &parser) {
     add("minor", "N", "Minor version.");
     add("build", "N", "Build number; the launcher installs a package with a greater one.");
     add("icon-overlay", "N", "Version of the icon overlay (1).", "1");
-    add("format", "FORMAT",
-        "zip (default), gnutar (default with --filter), pax, or 7zip to compare sizes.");
+    add("format", "FORMAT", "zip (default), gnutar (default with --filter) or pax.");
     add("filter", "FILTER", "none, gzip, zstd or xz (default of gnutar and pax).");
-    add("level", "N", "Compression level of the filter, or of zip and 7zip.");
+    add("level", "N", "Compression level of the filter, or of zip.");
     add("verify", "FILE", "List what speaks against the package FILE.");
     parser.addPositionalArgument(QStringLiteral("Client.app"), QStringLiteral("Client bundle."));
     parser.addPositionalArgument(QStringLiteral("OUT"), QStringLiteral("Folder to make."));

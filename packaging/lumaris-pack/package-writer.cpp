@@ -20,7 +20,6 @@ constexpr PackageCoding kFormats[] = {
     {"gnutar", ARCHIVE_FORMAT_TAR_GNUTAR, 0, 0, 0},
     {"pax", ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE, 0, 0, 0},
     {"zip", ARCHIVE_FORMAT_ZIP, 1, 6, 9},
-    {"7zip", ARCHIVE_FORMAT_7ZIP, 1, 9, 9},
 };
 
 constexpr PackageCoding kFilters[] = {

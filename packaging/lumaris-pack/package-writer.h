@@ -19,8 +19,7 @@ struct PackageCoding {
     bool Compresses() const { return highest_level > 0; }
 };
 
-/// Null when there is none of that name. gnutar and zip work for every name; 7zip takes ASCII names
-/// only and puts folders behind files, which the verifier refuses: it is there to compare sizes.
+/// Null when there is none of that name.
 const PackageCoding *FindFormat(const std::string &name);
 const PackageCoding *FindFilter(const std::string &name);
 
