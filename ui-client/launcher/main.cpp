@@ -1,3 +1,5 @@
+#include <signal.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QString>
@@ -19,6 +21,13 @@ static const ustring LOG_COMPONENT("launcher_debug");
 int qInitResources_texts();
 
 namespace {
+
+/// A file that may not grow and a reader who has gone are failed writes, which every writer here
+/// survives; the signals would end the launcher in the middle of an upgrade, at every start again.
+void IgnoreWriteSignals() {
+    signal(SIGXFSZ, SIG_IGN);
+    signal(SIGPIPE, SIG_IGN);
+}
 
 /// Makes the bundle's plug-in folder the only one, so that the toolkit never mixes in the system's.
 void SetPluginPath(const char *executable) {
@@ -51,6 +60,7 @@ void InstallTranslation(QTranslator &translator) {
 }  // namespace
 
 int main(int argc, char **argv) {
+    IgnoreWriteSignals();
     setlocale(LC_ALL, "");
     qInitResources_texts();
     SetPluginPath(argv[0]);

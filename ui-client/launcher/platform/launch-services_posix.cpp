@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <signal.h>
 #include <spawn.h>
 #include <unistd.h>
 
@@ -11,7 +12,8 @@
 namespace {
 
 /// What posix_spawn does before it starts the program: a session of its own and no standard
-/// streams, since the client outlives the launcher and must not hold its output open.
+/// streams, since the client outlives the launcher and must not hold its output open. Signals that
+/// the launcher ignores are the client's again.
 class DetachedStart {
 public:
     DetachedStart() {
@@ -20,7 +22,12 @@ public:
         posix_spawn_file_actions_addopen(&m_files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_addopen(&m_files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawn_file_actions_adddup2(&m_files, STDOUT_FILENO, STDERR_FILENO);
-        posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSID);
+        sigset_t signals;
+        sigemptyset(&signals);
+        sigaddset(&signals, SIGXFSZ);
+        sigaddset(&signals, SIGPIPE);
+        posix_spawnattr_setsigdefault(&m_attributes, &signals);
+        posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF);
     }
     ~DetachedStart() {
         posix_spawnattr_destroy(&m_attributes);
