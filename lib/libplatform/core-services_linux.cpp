@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr int kAttempts = 50;
+
 OSStatus StatusOf(int error, unsigned long path_length) {
     switch (error) {
         case ENOENT:
@@ -62,16 +64,21 @@ OSStatus FSPathMakeRefWithOptions(const UInt8 *path, OptionBits options, FSRef *
     const ustring stored = StoredPath(ustring(reinterpret_cast<const char *>(path)));
     const bool follow = (options & kFSPathMakeRefDoNotFollowLeafSymlink) == 0;
     // O_PATH needs no permission on the entry itself.
-    const int fd = open(stored.c_str(), O_PATH | O_CLOEXEC | (follow ? 0 : O_NOFOLLOW));
-    if (fd < 0) {
-        return StatusOf(errno, stored.length());
+    const int flags = O_PATH | O_CLOEXEC | (follow ? 0 : O_NOFOLLOW);
+    OSStatus status = fnfErr;
+    // One that was replaced after it was opened has lost its path, its successor has one.
+    for (int attempt = 0; attempt < kAttempts && status == fnfErr; ++attempt) {
+        const int fd = open(stored.c_str(), flags);
+        if (fd < 0) {
+            return StatusOf(errno, stored.length());
+        }
+        struct stat st;
+        if (isDirectory != nullptr) {
+            *isDirectory = fstat(fd, &st) == 0 && S_ISDIR(st.st_mode);
+        }
+        status = PathOfDescriptor(fd, ref->path);
+        close(fd);
     }
-    struct stat st;
-    if (isDirectory != nullptr) {
-        *isDirectory = fstat(fd, &st) == 0 && S_ISDIR(st.st_mode);
-    }
-    const OSStatus status = PathOfDescriptor(fd, ref->path);
-    close(fd);
     return status;
 }
 
