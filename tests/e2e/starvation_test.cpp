@@ -1,24 +1,9 @@
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/statvfs.h>
 
 #include "launch-fixture.h"
+#include "own-mounts.h"
 
 namespace {
-
-/// From here on this process and its children have mounts of their own, which end with them. As an
-/// ordinary user it becomes root in a user namespace for that.
-bool OwnMounts() {
-    const std::string user = std::to_string(geteuid()), group = std::to_string(getegid());
-    if (unshare(CLONE_NEWNS | (geteuid() == 0 ? 0 : CLONE_NEWUSER)) != 0)
-        return false;
-    if (user != "0") {
-        WriteFile("/proc/self/setgroups", "deny");
-        WriteFile("/proc/self/uid_map", "0 " + user + " 1");
-        WriteFile("/proc/self/gid_map", "0 " + group + " 1");
-    }
-    return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
 
 class StarvationTest : public LaunchTest {
 protected:
@@ -28,8 +13,7 @@ protected:
     }
 
     void SetUp() override {
-        static const bool own = OwnMounts();
-        if (!own)
+        if (!OwnMounts())
             GTEST_SKIP() << "needs root or user namespaces, to mount small volumes";
     }
 
@@ -83,7 +67,8 @@ protected:
         bool good = Launch() == 0;
         const bool installed = NewOneIsWhole();
         good = good && (installed || !upgrade || OldOneIsWhole());
-        good = good && (installed || ErrorSaid() || !sweep.log_outside);
+        // A log without a page to its name says nothing.
+        good = good && (installed || ErrorSaid() || (room == 0 && !sweep.log_outside));
         if (sweep.log_outside && (installed || upgrade))
             good = good && ClientStarted();
         StopClient();
@@ -99,13 +84,16 @@ protected:
 };
 
 TEST_F(StarvationTest, FullDiskAtEveryPage) {
+    // The pages in the middle of the client are alike: the quick run takes every fourth.
+    const unsigned long middle = getenv("EVERY_PAGE") ? 0 : fs::file_size(CLIENT) / 4096 - 2;
     const Sweep sweeps[] = {{"full disk", "size=", 4096, true},
                             {"full disk with the log on it", "size=", 4096, false},
                             {"no inode left", "nr_inodes=", 1, true}};
     for (const Sweep &sweep : sweeps)
         for (const bool upgrade : {true, false}) {
             int failed = 0, installed = 0, broken = 0;
-            for (unsigned long room = 0; installed < 3; ++room)
+            for (unsigned long room = 0;
+                 installed<3; room += sweep.unit> 1 && room > 1 && room < middle ? 4 : 1)
                 ++(StartWith(room, sweep, upgrade, broken) ? installed : failed);
             EXPECT_GT(failed, 3) << "the fault struck";
             printf("%s, %s: %d starts, %d too small, %d installed, broken %d\n", sweep.name,
