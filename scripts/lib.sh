@@ -10,7 +10,7 @@ cd "$ROOT"
 PACKAGES=(
     g++ cmake ninja-build
     qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libgtest-dev
-    dpkg-dev file zstd xvfb openbox xdotool x11-utils imagemagick time procps
+    dpkg-dev file zstd xvfb openbox xdotool x11-utils imagemagick time procps strace
     fonts-liberation fonts-noto-cjk
 )
 

@@ -88,16 +88,16 @@ TEST(ProcessesTest, ClientsThatDoNotEnd) {
 /// Keeps putting another pid file in place, by a rename and by writing anew, until it is killed.
 pid_t StartWriter(const fs::path &file, const std::vector<std::string> &contents) {
     const pid_t writer = fork();
-    if (writer == 0)
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
-    for (size_t i = 0; writer == 0; ++i) {
+    if (writer != 0)
+        return writer;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    for (size_t i = 0;; ++i) {
         const bool in_place = i / contents.size() % 2 == 1;
         const fs::path written = in_place ? file : fs::path(file.string() + ".new");
         WriteFile(written, contents[i % contents.size()]);
         if (!in_place)
             rename(written.c_str(), file.c_str());
     }
-    return writer;
 }
 
 TEST_F(LaunchTest, PidFileReplacedWhileRead) {
@@ -192,7 +192,8 @@ void ReapFirst(size_t count, std::vector<Started> &processes, Slowest &slowest) 
 }
 
 TEST_F(LaunchTest, FiftyAtOnce) {
-    const int rounds = getenv("ROUNDS") != nullptr ? atoi(getenv("ROUNDS")) : 3;
+    const char *const wanted = getenv("ROUNDS");
+    const int rounds = wanted != nullptr ? atoi(wanted) : 3;
     const size_t launchers = 50;
     // The one at work reads its package from a pipe and so waits for the others.
     const fs::path package = resources / "package/lumaris.wpk";
