@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -73,39 +74,53 @@ protected:
 };
 
 /// One entry of a package: a folder when the name ends in "/", a symbolic or hard link when one is
-/// given, otherwise a file.
+/// given, otherwise a file or what `type` says.
 struct PackageEntry {
     std::string name;
     std::string data = {};
     int mode = 0644;
     std::string symlink = {};
     std::string hardlink = {};
+    mode_t type = AE_IFREG;
+    int repeat = 1;        // how often the data is written
+    la_int64_t size = {};  // larger than the data: ends with a hole (pax only)
 };
 
-inline void WritePackage(const fs::path &path, const std::vector<PackageEntry> &entries) {
+inline void WriteEntry(struct archive *writer, const PackageEntry &item) {
+    struct archive_entry *entry = archive_entry_new();
+    archive_entry_set_pathname(entry, item.name.c_str());
+    const bool folder = !item.name.empty() && item.name.back() == '/';
+    archive_entry_set_filetype(entry, folder ? AE_IFDIR : item.type);
+    archive_entry_set_perm(entry, static_cast<mode_t>(folder ? item.mode | 0111 : item.mode));
+    if (!item.symlink.empty()) {
+        archive_entry_set_filetype(entry, AE_IFLNK);
+        archive_entry_set_symlink(entry, item.symlink.c_str());
+    }
+    if (!item.hardlink.empty())
+        archive_entry_set_hardlink(entry, item.hardlink.c_str());
+    const auto size = static_cast<la_int64_t>(item.data.size());
+    archive_entry_set_size(entry, std::max(item.size, size * item.repeat));
+    if (item.size > 0)
+        archive_entry_sparse_add_entry(entry, 0, size);
+    EXPECT_EQ(ARCHIVE_OK, archive_write_header(writer, entry))
+        << item.name << ": " << archive_error_string(writer);
+    for (int i = 0; i < item.repeat; ++i)
+        archive_write_data(writer, item.data.data(), item.data.size());
+    archive_entry_free(entry);
+}
+
+inline void WritePackage(const fs::path &path, const std::vector<PackageEntry> &entries,
+                         const char *format = "gnutar", const char *filter = "gzip") {
     fs::create_directories(path.parent_path());
     struct archive *writer = archive_write_new();
-    archive_write_set_format_gnutar(writer);
-    archive_write_add_filter_gzip(writer);
-    ASSERT_EQ(ARCHIVE_OK, archive_write_open_filename(writer, path.c_str()));
-    for (const PackageEntry &item : entries) {
-        struct archive_entry *entry = archive_entry_new();
-        archive_entry_set_pathname(entry, item.name.c_str());
-        const bool folder = item.name.back() == '/';
-        archive_entry_set_filetype(entry, folder ? AE_IFDIR : AE_IFREG);
-        archive_entry_set_perm(entry, static_cast<mode_t>(folder ? 0755 : item.mode));
-        if (!item.symlink.empty()) {
-            archive_entry_set_filetype(entry, AE_IFLNK);
-            archive_entry_set_symlink(entry, item.symlink.c_str());
-        }
-        if (!item.hardlink.empty())
-            archive_entry_set_hardlink(entry, item.hardlink.c_str());
-        archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()));
-        EXPECT_EQ(ARCHIVE_OK, archive_write_header(writer, entry)) << item.name;
-        archive_write_data(writer, item.data.data(), item.data.size());
-        archive_entry_free(entry);
+    ASSERT_EQ(ARCHIVE_OK, archive_write_set_format_by_name(writer, format)) << format;
+    if (*filter != '\0') {  // the library warns of filters that are programs
+        ASSERT_GE(archive_write_add_filter_by_name(writer, filter), ARCHIVE_WARN) << filter;
     }
-    archive_write_free(writer);
+    ASSERT_EQ(ARCHIVE_OK, archive_write_open_filename(writer, path.c_str()));
+    for (const PackageEntry &item : entries)
+        WriteEntry(writer, item);
+    EXPECT_EQ(ARCHIVE_OK, archive_write_free(writer));
 }
 
 inline std::string Info(const std::string &build) {

@@ -1,22 +1,10 @@
-#include "lumaris-service.h"
-
 #include <QCoreApplication>
 #include <set>
 
+#include "plain-service.h"
 #include "test-support.h"
 
 namespace {
-
-/// The base with the platform left out.
-class PlainService : public Service {
-public:
-    PlainService() { m_user_app_path = GetUserLumarisAppInstallPath(); }
-    void StopService() override {}
-    int HandlePackageUpgrade() override { return 0; }
-    void PostUpgrade() override {}
-    void PreUpgrade() override {}
-    bool IsNeedUpgrade() override { return false; }
-};
 
 class ServiceTest : public HomeTest {
 protected:
