@@ -1,17 +1,11 @@
 #include "logger.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
 #include <ctime>
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <thread>
 #include <tuple>
-#include <vector>
 
-namespace fs = std::filesystem;
+#include "../support/test-support.h"
 
 namespace {
 
@@ -26,11 +20,6 @@ std::string AfterStamp(const std::string &text) {
     struct tm parsed = {};
     const char *const rest = strptime(text.c_str(), "%b %d %H:%M:%S ", &parsed);
     return rest == nullptr ? "no time stamp: " + text.substr(0, 80) : rest;
-}
-
-std::string Read(const std::string &path) {
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 void Log(const std::string &text, Logger::Level level = Logger::LEVEL_ERROR) {
@@ -80,18 +69,18 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyteOfItsOwn) {
     EXPECT_FALSE(fs::exists(Rotated(0)));
     Log("last\n");
     EXPECT_EQ(fs::file_size(Rotated(0)), 22 + LIMIT + STAMP + 5);
-    EXPECT_EQ(Read(m_path), "");
+    EXPECT_EQ(ReadFile(m_path), "");
     Log("new\n");
-    EXPECT_EQ(AfterStamp(Read(m_path)), "new\n");
+    EXPECT_EQ(AfterStamp(ReadFile(m_path)), "new\n");
 }
 
 TEST_F(LoggerTest, DiscardsTheOldestOf49RotatedFiles) {
     for (int i = 0; i < 49; ++i)
         std::ofstream(Rotated(i)) << i;
     Log(ONE_BYTE_MORE);
-    EXPECT_EQ(AfterStamp(Read(Rotated(0))), ONE_BYTE_MORE);
+    EXPECT_EQ(AfterStamp(ReadFile(Rotated(0))), ONE_BYTE_MORE);
     for (int i = 1; i < 49; ++i)
-        EXPECT_EQ(Read(Rotated(i)), std::to_string(i - 1));
+        EXPECT_EQ(ReadFile(Rotated(i)), std::to_string(i - 1));
     EXPECT_FALSE(fs::exists(Rotated(49)));
 }
 
@@ -102,22 +91,44 @@ TEST_F(LoggerTest, FailedInitializeKeepsTheEarlierStream) {
     EXPECT_EQ(fs::file_size(m_path), LIMIT + 1 + STAMP + 5);
 }
 
-TEST_F(LoggerTest, DropsMessagesAfterAFailedRotationUntilReload) {
-    fs::remove(m_path);  // nothing there to rename
-    Log(ONE_BYTE_MORE);
-    Log("dropped\n");
-    EXPECT_TRUE(fs::is_empty(m_folder));
-    Logger::ReloadLogFile();
+TEST_F(LoggerTest, ReloadAppendsAndCountsFromZero) {
     Log(ONE_MEBIBYTE);
-    Logger::ReloadLogFile();  // appends and counts from 0
+    Logger::ReloadLogFile();
     Log("more\n");
     EXPECT_EQ(fs::file_size(m_path), LIMIT + STAMP + 5);
 }
 
-TEST_F(LoggerTest, LosesAndTearsNoMessageOfEightThreads) {
-    constexpr int THREADS = 8, MESSAGES = 2500;
+TEST_F(LoggerTest, DropsMessagesAfterAFailedRotationUntilReload) {
+    const auto check = [this](const std::function<void()> &mend) {
+        Log(ONE_BYTE_MORE);
+        Log("dropped\n");
+        EXPECT_EQ(Logger::log_fp, nullptr);
+        mend();
+        Logger::ReloadLogFile();
+        Log("written\n");
+        const std::string text = ReadFile(m_path);
+        EXPECT_EQ(text.find("dropped"), text.npos);
+        ASSERT_GE(text.size(), STAMP + 8);
+        EXPECT_EQ(AfterStamp(text.substr(text.size() - STAMP - 8)), "written\n");
+    };
+    fs::remove(m_path);
+    check([] {});
+    for (int i = 0; i < 50; ++i)  // a single free name would be shifted down to log_0
+        fs::create_directories(Rotated(i) + "/full");
+    check([] {});
+    fs::remove_all(m_folder);
+    check([this] { fs::create_directory(m_folder); });
+    fs::permissions(m_path, fs::perms(0666));
+    fs::permissions(m_folder, fs::perms(0555));
+    Apart([&] { check([] {}); });
+    fs::permissions(m_folder, fs::perms(0700));
+}
+
+TEST_F(LoggerTest, KeepsTheNewestMessagesOfEightThreadsWhole) {
+    constexpr int THREADS = 8, MESSAGES = 25000, LONGEST = 3000;  // 60 MiB: more than is kept
     const auto message = [](int t, int i) {
-        return std::to_string(t) + " " + std::to_string(i) + std::string(200, char('a' + t));
+        return std::to_string(t) + " " + std::to_string(i) + " " +
+               std::string(size_t(i % 17 == 0 ? LONGEST : i % 200), char('a' + t));
     };
     std::vector<std::thread> threads;
     for (int t = 0; t < THREADS; ++t)
@@ -127,16 +138,29 @@ TEST_F(LoggerTest, LosesAndTearsNoMessageOfEightThreads) {
         });
     for (std::thread &thread : threads)
         thread.join();
-    std::stringstream lines;
-    for (int i = 3; i >= 0; --i)
-        lines << Read(Rotated(i));
-    lines << Read(m_path);
-    int count = 0, next[256] = {};
-    for (std::string line; std::getline(lines, line); ++count) {
-        const int t = AfterStamp(line)[0] - '0';
-        ASSERT_EQ(AfterStamp(line), message(t, next[t & 255]++));
+    EXPECT_EQ(50, std::distance(fs::directory_iterator(m_folder), {}));
+    int count = 0, torn = 0, next[THREADS] = {};
+    for (int file = 48; file >= -1; --file) {
+        const std::string text = ReadFile(file < 0 ? m_path : Rotated(file));
+        EXPECT_TRUE(file < 0 || (text.size() > LIMIT && text.size() < LIMIT + LONGEST + 50));
+        std::stringstream lines(text);
+        for (std::string line; std::getline(lines, line); ++count) {
+            int t = -1, i = -1;
+            sscanf(AfterStamp(line).c_str(), "%d %d", &t, &i);
+            const bool follows = t >= 0 && t < THREADS && (next[t] == 0 || next[t] == i);
+            if (follows && AfterStamp(line) == message(t, i))
+                next[t] = i + 1;
+            else
+                ++torn;
+        }
     }
-    EXPECT_EQ(count, THREADS * MESSAGES);
+    EXPECT_EQ(0, torn);
+    EXPECT_LT(count, THREADS * MESSAGES);
+    EXPECT_EQ(std::vector<int>(THREADS, MESSAGES), std::vector<int>(next, next + THREADS));
+    printf(
+        "logger under pressure: %d messages by %d threads, the newest %d kept in 50 files, "
+        "%d lost or torn\n",
+        THREADS * MESSAGES, THREADS, count, torn);
 }
 
 }  // namespace

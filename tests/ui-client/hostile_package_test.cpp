@@ -115,8 +115,10 @@ TEST_F(HostilePackageTest, OddEntries) {
         {"file '.' in the way", {{".", "x"}, {"a", "x"}}, {}},
         // Links are written as stored, and a later entry may pass through one.
         {"through a link", {link_out, {"l/x", "x"}}, "l->" + out, written},
-        {"up a link", {{"l", "", 0777, "../../../world/out"}, {"l/x", "x"}},
-         "l->../../../world/out", written},
+        {"up a link",
+         {{"l", "", 0777, "../../../world/out"}, {"l/x", "x"}},
+         "l->../../../world/out",
+         written},
         {"folder over a link", {link_out, {"l/", "", 0700}, {"l/x", "x"}}, "l->" + out, written},
         {"the bundle a link", {{".", "", 0777, out}, {"x", "x"}}, "kept=k x=x", written},
         {"file over a link", {link_out, {"l", "x"}}, "l=x"},
@@ -326,9 +328,10 @@ TEST_F(HostilePackageTest, CutAnywhere) {
         EXPECT_EQ(*filter == '\0' && may_end_early.count(format) > 0, early > early_before);
     }
     EXPECT_EQ(0, outside);
-    printf("hostile packages: %zu formats and filters, %zu cuts (seed %u): %d refused, %d whole, "
-           "%d ended early without a version, %d wrote outside\n",
-           kinds.size(), cuts, seed, refused, whole, early, outside);
+    printf(
+        "hostile packages: %zu formats and filters, %zu cuts (seed %u): %d refused, %d whole, "
+        "%d ended early without a version, %d wrote outside\n",
+        kinds.size(), cuts, seed, refused, whole, early, outside);
 }
 
 }  // namespace
