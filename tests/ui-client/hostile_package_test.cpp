@@ -29,9 +29,9 @@ using Entries = std::vector<PackageEntry>;
 std::string Describe(const fs::path &path, const std::string &name) {
     struct stat st = {};
     lstat(path.c_str(), &st);
-    const std::string special = (st.st_mode & 07000) != 0 ? "(special mode)" : "";
+    const std::string special = (st.st_mode & 07000) != 0 ? "(set-id or sticky)" : "";
     if (S_ISDIR(st.st_mode))
-        return name + "/" + ((st.st_mode & 0777) == 0755 ? "" : "(other mode)") + special;
+        return name + "/" + ((st.st_mode & 0777) == 0755 ? "" : "(odd mode)") + special;
     if (S_ISLNK(st.st_mode))
         return name + "->" + fs::read_symlink(path).string();
     return S_ISREG(st.st_mode) ? name + "=" + ReadFile(path) + special : name + "!";
@@ -59,7 +59,15 @@ protected:
         Reset();
         fs::current_path(world / "cwd");
     }
-    ~HostilePackageTest() override { fs::current_path("/"); }
+    ~HostilePackageTest() override {
+        fs::current_path("/");
+        fs::remove_all(package.parent_path().parent_path());
+        EXPECT_EQ(descriptors, Descriptors());
+    }
+
+    static std::ptrdiff_t Descriptors() {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), {});
+    }
 
     /// The old bundle, and surroundings that nobody may touch.
     void Reset() {
@@ -84,6 +92,7 @@ protected:
     const fs::path package =
         Service::GetRootLumarisResourceInstallPath().c_str() + std::string("/package/lumaris.wpk");
     const fs::path world = root / "world";
+    const std::ptrdiff_t descriptors = Descriptors();
 };
 
 const char kUntouched[] = "cwd/ cwd/kept=c out/ out/kept=k";
@@ -93,9 +102,7 @@ TEST_F(HostilePackageTest, OddEntries) {
     const std::string out = (world / "out").string(), long_name(255, 'n');
     const std::string written = std::string(kUntouched) + " out/x=x";
     const PackageEntry link_out = {"l", "", 0777, out};
-    const auto linked = [](const std::string &target, const std::string &data = "") {
-        return PackageEntry{"h", data, 0644, "", target};
-    };
+    const auto linked = [](const std::string &to) { return PackageEntry{"h", "", 0644, "", to}; };
     const auto special = [](mode_t type) { return PackageEntry{"p", "", 0644, "", "", type}; };
     const char *const device = geteuid() == 0 ? "p!" : nullptr;
     const struct {
@@ -106,7 +113,6 @@ TEST_F(HostilePackageTest, OddEntries) {
     } cases[] = {
         {"..", {{"../x", "x"}}, {}},
         {".. at the end", {{"a/..", "x"}}, {}},
-        {"folder ..", {{"../x/"}}, {}},
         {"absolute", {{"/lumaris-hostile/x", "x"}}, "lumaris-hostile/ lumaris-hostile/x=x"},
         {"needless slashes", {{"//a//b/./c", "x"}}, "a/ a/b/ a/b/c=x"},
         {"'/' and '.'", {{"/"}, {"./"}, {"a", "x"}}, "a=x"},
@@ -122,17 +128,14 @@ TEST_F(HostilePackageTest, OddEntries) {
         {"folder over a link", {link_out, {"l/", "", 0700}, {"l/x", "x"}}, "l->" + out, written},
         {"the bundle a link", {{".", "", 0777, out}, {"x", "x"}}, "kept=k x=x", written},
         {"file over a link", {link_out, {"l", "x"}}, "l=x"},
-        {"file over a file link", {{"l", "", 0777, out + "/kept"}, {"l", "x"}}, "l=x"},
         {"link to nowhere", {{"l", "", 0777, "/none"}, {"l/x", "x"}}, {}},
         // Targets of hard links are absolute or start at the working folder, never at the bundle.
         {"hard link out", {linked(out + "/kept")}, "h=k"},
         {"hard link below cwd", {linked("kept")}, "h=c"},
         {"hard link in the package", {{"f", "x"}, linked("f")}, {}},
-        {"hard link ..", {linked("../out/kept")}, {}},
         {"hard link replaced", {linked(out + "/kept"), {"h", "x"}}, "h=x"},
         {"pipe", {special(AE_IFIFO)}, "p!"},
-        {"devices", {special(AE_IFCHR)}, device},
-        {"block device", {special(AE_IFBLK)}, device},
+        {"device", {special(AE_IFCHR)}, device},
         {"file twice", {{"a", "1"}, {"a", "2"}}, "a=2"},
         {"folder twice", {{"a/"}, {"a/x", "1"}, {"a/"}}, "a/ a/x=1"},
         {"file for a folder", {{"d/"}, {"d", "f"}}, "d=f"},
@@ -255,8 +258,8 @@ TEST_F(HostilePackageTest, ManyEntries) {
     printf("%d entries, peak memory grew by %ld KiB\n", count, PeakKilobytes() - before);
 }
 
-/// Where the entries of an archive without a filter start.
-std::vector<size_t> Boundaries(const fs::path &package) {
+/// Where to cut: where an entry starts, and at random places, or in the long run at every place.
+std::vector<size_t> Places(const fs::path &package, std::mt19937 &random) {
     std::vector<size_t> places;
     struct archive *reader = archive_read_new();
     struct archive_entry *entry = nullptr;
@@ -265,12 +268,7 @@ std::vector<size_t> Boundaries(const fs::path &package) {
     while (archive_read_next_header(reader, &entry) == ARCHIVE_OK)
         places.push_back(static_cast<size_t>(archive_read_header_position(reader)));
     archive_read_free(reader);
-    return places;
-}
-
-/// Where to cut: random places and those between entries, or in the long run every place.
-std::vector<size_t> Places(const fs::path &package, size_t size, std::mt19937 &random) {
-    std::vector<size_t> places = Boundaries(package);
+    const size_t size = fs::file_size(package);
     const bool every = kLong && size < 20000;
     for (size_t i = 0; i < (every ? size : kLong ? 50U : 8U); ++i)
         places.push_back(every ? i : random() % size);
@@ -278,9 +276,9 @@ std::vector<size_t> Places(const fs::path &package, size_t size, std::mt19937 &r
 }
 
 TEST_F(HostilePackageTest, CutAnywhere) {
-    // In the first ones an archive that ends between two entries is a whole one.
-    const std::set<std::string> may_end_early = {"gnutar", "pax",   "ustar", "v7tar",
-                                                 "argnu",  "arbsd", "warc",  "mtree"};
+    // Here an archive that ends between two entries is a whole one.
+    const std::set<std::string> may_end_early = {"gnutar", "pax",   "ustar", "v7tar",   "argnu",
+                                                 "arbsd",  "mtree", "warc",  "compress"};
     std::vector<std::pair<const char *, const char *>> kinds;
     for (const char *format : {"gnutar", "pax", "ustar", "v7tar", "argnu", "arbsd", "warc", "mtree",
                                "newc", "odc", "bin", "pwb", "zip", "7zip", "iso9660", "xar"})
@@ -309,7 +307,7 @@ TEST_F(HostilePackageTest, CutAnywhere) {
         EXPECT_EQ(0, Install()) << Log();
         const std::string bytes = ReadFile(package), full = Tree(app);
         const int early_before = early;
-        for (const size_t place : Places(package, bytes.size(), random)) {
+        for (const size_t place : Places(package, random)) {
             Reset();
             WriteFile(package, bytes.substr(0, place));
             ++cuts;
@@ -325,7 +323,7 @@ TEST_F(HostilePackageTest, CutAnywhere) {
             }
             outside += Tree(world) != kUntouched;
         }
-        EXPECT_EQ(*filter == '\0' && may_end_early.count(format) > 0, early > early_before);
+        EXPECT_TRUE(early == early_before || may_end_early.count(*filter ? filter : format) > 0);
     }
     EXPECT_EQ(0, outside);
     printf(
