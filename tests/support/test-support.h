@@ -117,6 +117,8 @@ inline void WritePackage(const fs::path &path, const std::vector<PackageEntry> &
     if (*filter != '\0') {  // the library warns of filters that are programs
         ASSERT_GE(archive_write_add_filter_by_name(writer, filter), ARCHIVE_WARN) << filter;
     }
+    // Otherwise it makes folders that only root can empty; no other format knows the option.
+    archive_write_set_format_option(writer, "iso9660", "rockridge", "strict");
     ASSERT_EQ(ARCHIVE_OK, archive_write_open_filename(writer, path.c_str()));
     for (const PackageEntry &item : entries)
         WriteEntry(writer, item);
