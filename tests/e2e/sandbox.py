@@ -104,7 +104,8 @@ class Sandbox:
         self.launcher.parent.mkdir(parents=True)
         shutil.copy2(staged / "MacOS/launcher", self.launcher)
         shutil.copytree(staged / "Frameworks", self.bundle / "Contents/Frameworks")
-        (self.bundle / "Contents/Resources/package").mkdir(parents=True)
+        self.resources = self.bundle / "Contents/Resources"
+        (self.resources / "package").mkdir(parents=True)
         (self.root / "run").mkdir(mode=0o700)
         self.environment = {
             "HOME": str(self.home),
@@ -131,10 +132,9 @@ class Sandbox:
             folder.mkdir()
 
     def ship(self, shipped: Release) -> None:
-        resources = self.bundle / "Contents/Resources"
         for source, target in (
-            (shipped.package, resources / "package/lumaris.wpk"),
-            (shipped.info, resources / "INFO"),
+            (shipped.package, self.resources / "package/lumaris.wpk"),
+            (shipped.info, self.resources / "INFO"),
         ):
             target.unlink(missing_ok=True)
             try:
