@@ -25,6 +25,8 @@ die() {
     exit 1
 }
 
+DISPLAY_PIDS=()
+
 # install_packages NAME...: installs those that are missing; as an ordinary user it only names them.
 install_packages() {
     local package missing=()
@@ -50,7 +52,6 @@ build() {
 # start_display FOLDER: brings up a display of our own in DISPLAY, with its picture in
 # FOLDER/Xvfb_screen0 and a window manager for the title bar. stop_display ends both.
 start_display() {
-    DISPLAY_PIDS=()
     mkdir -p "$1"
     Xvfb -displayfd 3 -fbdir "$1" -screen 0 640x360x24 -nocursor -nolisten tcp \
         3>"$1/display" >"$1/xvfb.log" 2>&1 &

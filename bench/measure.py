@@ -1,0 +1,132 @@
+"""Runs programs in turns and tells what they cost."""
+
+import json
+import os
+import re
+import select
+import statistics
+import subprocess
+import time
+from dataclasses import dataclass
+from pathlib import Path
+from typing import Callable
+
+Pair = tuple[float, float]  # this project, peer
+
+
+@dataclass
+class Row:
+    """One line of the table: pairs of seconds, or of megabytes to subtract."""
+
+    case: str
+    peer: str
+    goal: float | None
+    pairs: list[Pair]
+    megabytes: bool = False
+    note: str = ""
+
+    def figures(self) -> list[float]:
+        return sorted(a - b if self.megabytes else a / b for a, b in self.pairs)
+
+    def cells(self) -> list[str]:
+        ours, peer = (statistics.median(side) for side in zip(*self.pairs))
+        figures, shape = self.figures(), "{:+.1f}" if self.megabytes else "{:.2f}"
+        middle = shape.format(statistics.median(figures))
+        spread = f"{shape.format(figures[0])} to {shape.format(figures[-1])}"
+        unit = " MB" if self.megabytes else ""
+        goal, met = "-", "-"
+        if self.goal is not None:
+            goal = f"{shape.format(self.goal)}{unit}"
+            met = "yes" if float(middle) <= self.goal else "**no**"
+        amount = "{:.1f} MB".format if self.megabytes else duration
+        return [
+            self.case,
+            amount(ours) + self.note,
+            f"{self.peer}: {amount(peer)}",
+            f"{middle}{unit} ({spread})",
+            goal,
+            met,
+        ]
+
+
+def duration(seconds: float) -> str:
+    for scale, name in ((1, "s"), (1e3, "ms"), (1e6, "µs")):
+        if seconds * scale >= 1:
+            return f"{seconds * scale:.3g} {name}"
+    return f"{seconds * 1e9:.3g} ns"
+
+
+def run(*words: object) -> tuple[float, float]:
+    """Seconds and peak resident megabytes. What earlier runs wrote is on the disk by then."""
+    os.sync()
+    argv = [str(word) for word in words]
+    start = time.perf_counter()
+    process = subprocess.Popen(argv, stdout=subprocess.DEVNULL)
+    _, status, usage = os.wait4(process.pid, 0)
+    seconds = time.perf_counter() - start
+    process.returncode = os.waitstatus_to_exitcode(status)
+    if process.returncode != 0:
+        raise SystemExit(f"error: status {process.returncode}: {' '.join(argv)}")
+    return seconds, usage.ru_maxrss / 1024
+
+
+def seconds(*words: object) -> float:
+    return run(*words)[0]
+
+
+def printed(*words: object) -> float:
+    """The number that the program prints."""
+    os.sync()
+    argv = [str(word) for word in words]
+    return float(subprocess.run(argv, stdout=subprocess.PIPE, check=True).stdout)
+
+
+def until_client(home: Path, *words: object) -> float:
+    """Seconds until the client that the program opens says that it runs."""
+    pipe = home / "started"
+    if not pipe.exists():
+        os.mkfifo(pipe)
+    reader = os.open(pipe, os.O_RDONLY | os.O_NONBLOCK)
+    start = time.clock_gettime_ns(time.CLOCK_MONOTONIC)
+    run(*words)
+    if not select.select([reader], [], [], 10)[0]:
+        raise SystemExit(f"error: {words[0]} opened no client")
+    stamp = int(os.read(reader, 64))
+    os.close(reader)
+    return (stamp - start) / 1e9
+
+
+def turns(count: int, ours: Callable[[], float], peer: Callable[[], float]) -> list[Pair]:
+    """Pairs of neighbouring runs, after one of each that only warms up."""
+    ours()
+    peer()
+    pairs = []
+    for index in range(count):
+        if index % 2 == 0:
+            first = ours()
+            pairs.append((first, peer()))
+        else:
+            first = peer()
+            pairs.append((ours(), first))
+    return pairs
+
+
+def micro(program: Path, name: str, repetitions: int = 15) -> tuple[list[Pair], float]:
+    """Pairs of one micro-benchmark, both sides shuffled, and the project's allocations."""
+    argv = [
+        str(program),
+        f"--benchmark_filter=^{re.escape(name)}/",
+        f"--benchmark_repetitions={repetitions}",
+        "--benchmark_min_time=0.05",
+        "--benchmark_enable_random_interleaving=true",
+        "--benchmark_format=json",
+    ]
+    result = subprocess.run(argv, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=True)
+    times: dict[str, dict[int, float]] = {"project": {}, "peer": {}}
+    allocations = 0.0
+    for item in json.loads(result.stdout)["benchmarks"]:
+        if item["run_type"] == "iteration":
+            side = item["name"].split("/")[1]
+            times[side][item["repetition_index"]] = item["real_time"] / 1e9
+            allocations += item.get("allocations", 0)
+    return [(times["project"][i], times["peer"][i]) for i in range(repetitions)], allocations

@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Measures the launcher (release build) beside what one would use instead: prints one table and
+# writes it to docs/performance.md. For figures worth keeping the machine has nothing else to do.
+# usage: scripts/bench.sh [CASE...]     CASE: a part of a case's title; only printed then
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+install_packages "${PACKAGES[@]}" libarchive-tools python3
+build release
+
+WORK=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-bench.XXXXXX")
+OTHER_VOLUME=$(mktemp -d /dev/shm/lumaris-bench.XXXXXX) # on another volume than WORK
+clean_up() {
+    stop_display
+    rm -rf "$WORK" "$OTHER_VOLUME"
+}
+trap clean_up EXIT
+[ "$(stat -c %d "$WORK")" != "$(stat -c %d "$OTHER_VOLUME")" ] ||
+    die "the temporary folder lies in memory; set TMPDIR to a folder on a disk"
+
+start_display "$WORK/screen"
+mkdir "$WORK/tmp"
+TMPDIR=$WORK/tmp LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb PYTHONDONTWRITEBYTECODE=1 \
+    bench/compare "$ROOT/build-release" "$WORK" "$OTHER_VOLUME" "$@"
