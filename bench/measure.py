@@ -127,6 +127,6 @@ def micro(program: Path, name: str, repetitions: int = 15) -> tuple[list[Pair], 
     for item in json.loads(result.stdout)["benchmarks"]:
         if item["run_type"] == "iteration":
             side = item["name"].split("/")[1]
-            times[side][item["repetition_index"]] = item["real_time"] / 1e9
+            times[side][item["repetition_index"]] = item["cpu_time"] / 1e9
             allocations += item.get("allocations", 0)
     return [(times["project"][i], times["peer"][i]) for i in range(repetitions)], allocations

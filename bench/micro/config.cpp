@@ -46,11 +46,16 @@ void CompareConfig() {
             Config config;
             if (config.read(File().c_str()) != 0 || config.size() != kLines)
                 WrongCount();
+            for (const auto &entry : config)
+                benchmark::DoNotOptimize(entry.second.c_str());
         },
         [] {
             Touch();
             const QSettings settings(QString::fromStdString(File()), QSettings::IniFormat);
-            if (settings.allKeys().size() != kLines)
+            const QStringList keys = settings.allKeys();
+            if (keys.size() != kLines)
                 WrongCount();
+            for (const QString &key : keys)
+                benchmark::DoNotOptimize(settings.value(key).toString().constData());
         });
 }
