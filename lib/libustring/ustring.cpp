@@ -5,8 +5,8 @@
 
 #include <algorithm>
 #include <array>
-#include <bitset>
 #include <climits>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
@@ -19,6 +19,24 @@
 namespace {
 
 constexpr unsigned long npos = ustring::npos;
+
+/// Rows by the low half of a byte: neighbours in a set lie in different rows, so that setting one
+/// does not wait for the other, and clearing 32 bytes costs next to nothing.
+class byte_set {
+public:
+    explicit byte_set(std::string_view bytes) {
+        for (char c : bytes)
+            row(c) = static_cast<uint16_t>(row(c) | bit(c));
+    }
+    bool contains(char c) const { return (m_rows[low(c)] & bit(c)) != 0; }
+
+private:
+    static unsigned low(char c) { return static_cast<unsigned char>(c) & 15U; }
+    static unsigned bit(char c) { return 1U << (static_cast<unsigned char>(c) >> 4); }
+    uint16_t &row(char c) { return m_rows[low(c)]; }
+
+    std::array<uint16_t, 16> m_rows{};
+};
 
 // ICU's UChar is char16_t here. It has the size and representation of unsigned short, and only
 // the separately compiled ICU reads or writes through these pointers.
@@ -70,96 +88,6 @@ unsigned long unit_count(const unsigned short *s, unsigned long n) {
     return count;
 }
 
-std::string_view view(const ustring &s) {
-    return {s.c_str(), s.length()};
-}
-
-/// A NUL stands for no byte at all.
-std::string_view view(const char &c) {
-    return {&c, c == '\0' ? 0UL : 1UL};
-}
-
-std::string_view view(const std::string &s) {
-    return s;
-}
-
-std::string_view view(const char *s) {
-    return s;
-}
-
-class byte_set {
-public:
-    explicit byte_set(std::string_view bytes) {
-        for (char c : bytes)
-            m_has[static_cast<unsigned char>(c)] = true;
-    }
-    bool contains(char c) const { return m_has[static_cast<unsigned char>(c)]; }
-
-private:
-    std::bitset<256> m_has;
-};
-
-/// First position from `pos` on whose membership in `set` is `wanted`.
-unsigned long scan_forward(std::string_view text, std::string_view set, unsigned long pos,
-                           bool wanted) {
-    const byte_set bytes(set);
-    for (; pos < text.size(); ++pos)
-        if (bytes.contains(text[pos]) == wanted)
-            return pos;
-    return npos;
-}
-
-/// Last position up to `pos` whose membership in `set` is `wanted`.
-unsigned long scan_backward(std::string_view text, std::string_view set, unsigned long pos,
-                            bool wanted) {
-    const byte_set bytes(set);
-    unsigned long end = pos < text.size() ? pos + 1 : text.size();
-    while (end-- > 0)
-        if (bytes.contains(text[end]) == wanted)
-            return end;
-    return npos;
-}
-
-unsigned long find_in(std::string_view text, std::string_view s, unsigned long pos) {
-    // Unlike the standard search, this one finds no empty needle behind the last byte. memmem
-    // never degrades to a quadratic search, but its preparation costs more than a path is long.
-    if (pos >= text.size())
-        return npos;
-    if (text.size() < 256 || s.empty())
-        return text.find(s, pos);
-    const void *hit = memmem(text.data() + pos, text.size() - pos, s.data(), s.size());
-    return hit == nullptr
-               ? npos
-               : static_cast<unsigned long>(static_cast<const char *>(hit) - text.data());
-}
-
-unsigned long rfind_in(std::string_view text, std::string_view s, unsigned long pos) {
-    if (text.size() < s.size() || text.empty())
-        return npos;
-    // An empty needle is found at the last byte, not behind it.
-    unsigned long end = std::min({pos, text.size() - s.size(), text.size() - 1}) + 1;
-    while (end-- > 0)
-        if (s.empty() || (text[end] == s[0] && text.compare(end, s.size(), s) == 0))
-            return end;
-    return npos;
-}
-
-unsigned long find_first_of_in(std::string_view text, std::string_view set, unsigned long pos) {
-    return set.size() == 1 ? text.find(set[0], pos) : scan_forward(text, set, pos, true);
-}
-
-unsigned long find_first_not_of_in(std::string_view text, std::string_view set, unsigned long pos) {
-    return scan_forward(text, set, pos, false);
-}
-
-unsigned long find_last_of_in(std::string_view text, std::string_view set, unsigned long pos) {
-    return scan_backward(text, set, pos, true);
-}
-
-unsigned long find_last_not_of_in(std::string_view text, std::string_view set, unsigned long pos) {
-    return scan_backward(text, set, pos, false);
-}
-
 using fold_table = std::array<unsigned char, 256>;
 
 constexpr fold_table make_fold_table() {
@@ -172,27 +100,101 @@ constexpr fold_table make_fold_table() {
 /// Folds ASCII letters only: the bytes of longer UTF-8 sequences mean nothing by themselves.
 constexpr fold_table case_fold = make_fold_table();
 
-/// memcmp and strcmp promise no more than a sign; callers get the difference of the bytes.
-template <typename Map>
-int difference(const char *a, const char *b, unsigned long n, Map map) {
-    for (unsigned long i = 0; i < n; ++i) {
-        const int x = map(static_cast<unsigned char>(a[i]));
-        const int y = map(static_cast<unsigned char>(b[i]));
-        if (x != y || x == 0)
-            return x - y;
+uint64_t load_word(const char *p) {
+    uint64_t word;
+    std::memcpy(&word, p, sizeof(word));
+    return word;
+}
+
+/// Whether all of `n` code units are ASCII and none of them is NUL.
+template <typename Unit>
+bool is_plain(const Unit *s, unsigned long n) {
+    constexpr uint64_t ones = sizeof(Unit) == 1 ? 0x0101010101010101 : 0x0001000100010001;
+    constexpr uint64_t high = sizeof(Unit) == 1 ? 0x8080808080808080 : 0xff80ff80ff80ff80;
+    constexpr unsigned long step = sizeof(uint64_t) / sizeof(Unit);
+    uint64_t found = 0;
+    unsigned long i = 0;
+    for (; i + step <= n; i += step) {
+        uint64_t word;
+        std::memcpy(&word, s + i, sizeof(word));
+        found |= word | (word - ones);  // a unit of 0 borrows and so sets its high bits
     }
+    for (; i < n; ++i)
+        found |= s[i] == 0 || s[i] > 0x7f ? high : 0;
+    return (found & high) == 0;
+}
+
+/// Longest text in code units that is converted in one go, on the stack; a longer one is measured
+/// first.
+constexpr unsigned long kShortText = 340;
+
+/// memcmp and strcmp promise no more than a sign; callers get the difference of the bytes.
+/// Everything before `end` can be read in both; a NUL ends both texts, should one lie there.
+int difference(const char *a, const char *b, unsigned long end) {
+    static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "the first byte is the lowest one");
+    constexpr uint64_t ones = 0x0101010101010101, high = 0x8080808080808080;
+    constexpr unsigned long step = sizeof(uint64_t);
+    unsigned long i = 0;
+    // The last word overlaps the one before, so that no byte is left over.
+    for (; end >= step && i < end; i += step) {
+        const unsigned long at = std::min(i, end - step);
+        const uint64_t x = load_word(a + at), y = load_word(b + at);
+        // Marks the lowest byte that is NUL or differs, and maybe others above it.
+        const uint64_t differ = x ^ y;
+        const uint64_t mark = ((x - ones) & ~x & high) | differ;
+        if (mark != 0) {
+            const int shift = __builtin_ctzll(mark) & ~7;
+            return static_cast<int>(x >> shift & 0xff) - static_cast<int>(y >> shift & 0xff);
+        }
+    }
+    for (; i < end; ++i)
+        if (a[i] != b[i] || a[i] == '\0')
+            return static_cast<unsigned char>(a[i]) - static_cast<unsigned char>(b[i]);
     return 0;
 }
 
-int str_cmp(const char *a, const char *b, unsigned long n) {
-    return difference(a, b, n, [](unsigned char c) { return c; });
-}
-
 int str_case_cmp(const char *a, const char *b) {
-    return difference(a, b, npos, [](unsigned char c) { return case_fold[c]; });
+    for (;; ++a, ++b) {
+        const int x = case_fold[static_cast<unsigned char>(*a)];
+        const int y = case_fold[static_cast<unsigned char>(*b)];
+        if (x != y || x == 0)
+            return x - y;
+    }
 }
 
 }  // namespace
+
+namespace ustring_search {
+
+/// memmem never degrades to a quadratic search, but its preparation costs more than a path is long.
+unsigned long find_long(std::string_view text, std::string_view s, unsigned long pos) {
+    if (s.empty())
+        return pos;
+    const void *hit = memmem(text.data() + pos, text.size() - pos, s.data(), s.size());
+    return hit == nullptr
+               ? npos
+               : static_cast<unsigned long>(static_cast<const char *>(hit) - text.data());
+}
+
+unsigned long scan_forward(std::string_view text, std::string_view set, unsigned long pos,
+                           bool wanted) {
+    const byte_set bytes(set);
+    for (; pos < text.size(); ++pos)
+        if (bytes.contains(text[pos]) == wanted)
+            return pos;
+    return npos;
+}
+
+unsigned long scan_backward(std::string_view text, std::string_view set, unsigned long end,
+                            bool wanted) {
+    const byte_set bytes(set);
+    while (end-- > 0)
+        if (bytes.contains(text[end]) == wanted)
+            return end;
+    return npos;
+}
+
+}  // namespace ustring_search
 
 ustring::ustring() {
     init();
@@ -206,17 +208,30 @@ ustring::~ustring() {
 }
 
 void ustring::init() {
+    init_capacity(4);
+    clear();
+}
+
+/// The buffer that an empty string would have after an append, without the detour.
+void ustring::init(const char *s, unsigned long n) {
+    init_capacity(n >= 1 && n <= 3 ? 4 : grown(0, n));
+    std::memcpy(m_data, s, n);
+    m_data_len = n;
+    m_data[n] = '\0';
+    clear_wdata();
+}
+
+void ustring::init_capacity(unsigned long n) {
     m_data = nullptr;
     m_wdata = nullptr;
     m_data_cap = m_wdata_cap = 0;
-    realloc_data(4);
+    realloc_data(n);
     try {
         realloc_wdata(4);
     } catch (...) {
         std::free(m_data);  // no destructor runs for an object that was never complete
         throw;
     }
-    clear();
 }
 
 void ustring::realloc_data(unsigned long n) {
@@ -238,17 +253,33 @@ void ustring::clear_wdata() const {
 }
 
 int ustring::convert_from_data() const {
+    const unsigned long bytes = m_data_len;
+    if (is_plain(reinterpret_cast<const unsigned char *>(m_data), bytes)) {
+        realloc_wdata(bytes + 1);
+        std::copy(m_data, m_data + bytes, m_wdata);
+        m_wdata_len = bytes;
+        m_wdata[bytes] = 0;
+        return 0;
+    }
+    UChar units[kShortText];
+    const bool fits = bytes < kShortText;  // no text has more units than bytes
     int32_t len = 0;
     UErrorCode status = U_ZERO_ERROR;
-    u_strFromUTF8(nullptr, 0, &len, m_data, -1, &status);
-    status = U_ZERO_ERROR;
-    realloc_wdata(static_cast<unsigned long>(len) + 1);
-    u_strFromUTF8(to_icu(m_wdata), icu_capacity(m_wdata_cap), &len, m_data, -1, &status);
+    u_strFromUTF8(fits ? units : nullptr, fits ? kShortText : 0, &len, m_data,
+                  fits ? int32_t(std::strlen(m_data)) : -1, &status);
+    if (!fits || U_SUCCESS(status))
+        realloc_wdata(static_cast<unsigned long>(len) + 1);
+    if (!fits) {
+        status = U_ZERO_ERROR;
+        u_strFromUTF8(to_icu(m_wdata), icu_capacity(m_wdata_cap), &len, m_data, -1, &status);
+    }
     if (U_FAILURE(status)) {
         warn("u_strFromUTF8", status, __LINE__ - 2);
         clear_wdata();
         return -1;
     }
+    if (fits)
+        std::memcpy(m_wdata, units, static_cast<unsigned long>(len) * sizeof(*units));
     m_wdata_len = static_cast<unsigned long>(len);
     m_wdata[m_wdata_len] = 0;
     return 0;
@@ -257,17 +288,33 @@ int ustring::convert_from_data() const {
 int ustring::convert_from_wdata() {
     // Should the allocation throw, the UTF-16 form counts as unbuilt and the old text stands.
     const unsigned long wdata_len = std::exchange(m_wdata_len, 0);
+    if (is_plain(m_wdata, wdata_len)) {
+        realloc_data(wdata_len + 1);
+        std::transform(m_wdata, m_wdata + wdata_len, m_data,
+                       [](unsigned short unit) { return static_cast<char>(unit); });
+        m_data_len = m_wdata_len = wdata_len;
+        m_data[m_data_len] = '\0';
+        return 0;
+    }
+    char bytes[kShortText * 3];
+    const bool fits = wdata_len < kShortText;  // a unit makes three bytes at most
     int32_t len = 0;
     UErrorCode status = U_ZERO_ERROR;
-    u_strToUTF8(nullptr, 0, &len, to_icu(m_wdata), -1, &status);
-    status = U_ZERO_ERROR;
-    realloc_data(static_cast<unsigned long>(len) + 1);
-    u_strToUTF8(m_data, icu_capacity(m_data_cap), &len, to_icu(m_wdata), -1, &status);
+    u_strToUTF8(fits ? bytes : nullptr, fits ? int32_t(sizeof(bytes)) : 0, &len, to_icu(m_wdata),
+                fits ? int32_t(unit_count(m_wdata, wdata_len)) : -1, &status);
+    if (!fits || U_SUCCESS(status))
+        realloc_data(static_cast<unsigned long>(len) + 1);
+    if (!fits) {
+        status = U_ZERO_ERROR;
+        u_strToUTF8(m_data, icu_capacity(m_data_cap), &len, to_icu(m_wdata), -1, &status);
+    }
     if (U_FAILURE(status)) {
         warn("u_strToUTF8", status, __LINE__ - 2);
         clear();
         return -1;
     }
+    if (fits)
+        std::memcpy(m_data, bytes, static_cast<unsigned long>(len));
     m_data_len = static_cast<unsigned long>(len);
     m_data[m_data_len] = '\0';
     m_wdata_len = wdata_len;
@@ -486,35 +533,12 @@ void ustring::trim(const char *set) {
     rtrim(set);
 }
 
-// The four argument forms of a search differ only in where their bytes lie.
-#define DEFINE_SEARCH(name)                                                      \
-    unsigned long ustring::name(const std::string &s, unsigned long pos) const { \
-        return name##_in(view(*this), view(s), pos);                             \
-    }                                                                            \
-    unsigned long ustring::name(const char *s, unsigned long pos) const {        \
-        return name##_in(view(*this), view(s), pos);                             \
-    }                                                                            \
-    unsigned long ustring::name(const ustring &s, unsigned long pos) const {     \
-        return name##_in(view(*this), view(s), pos);                             \
-    }                                                                            \
-    unsigned long ustring::name(char c, unsigned long pos) const {               \
-        return name##_in(view(*this), view(c), pos);                             \
-    }
-
-DEFINE_SEARCH(find)
-DEFINE_SEARCH(rfind)
-DEFINE_SEARCH(find_first_of)
-DEFINE_SEARCH(find_first_not_of)
-DEFINE_SEARCH(find_last_of)
-DEFINE_SEARCH(find_last_not_of)
-#undef DEFINE_SEARCH
-
-int ustring::compare(const ustring &s) const {
-    return *this == s ? 0 : str_cmp(m_data, s.m_data, npos);
+int ustring::compare(const ustring &s, unsigned long n) const {
+    return ::difference(m_data, s.m_data, std::min({m_data_len + 1, s.m_data_len + 1, n}));
 }
 
-int ustring::compare(const ustring &s, unsigned long n) const {
-    return str_cmp(m_data, s.m_data, n);
+int ustring::difference(const ustring &s) const {
+    return ::difference(m_data, s.m_data, std::min(m_data_len, s.m_data_len) + 1);
 }
 
 int ustring::compare(const ustring &a, const ustring &b, bool ignore_case) {
@@ -530,6 +554,9 @@ ustring ustring::normalize(const ustring &src, normalization_form form) {
     ustring result;
     if (src.empty())
         return result;
+    // ASCII is the same in both forms, and nearly all paths are ASCII.
+    if (is_plain(reinterpret_cast<const unsigned char *>(src.m_data), src.m_data_len))
+        return result.append_bytes(src.m_data, src.m_data_len);
 
     UErrorCode status = U_ZERO_ERROR;
     const UNormalizer2 *instance = unorm2_getInstance(nullptr, "nfc", modes[form], &status);
@@ -539,11 +566,17 @@ ustring ustring::normalize(const ustring &src, normalization_form form) {
     }
 
     const UChar *text = to_icu(src.c_str_utf16());
-    int32_t len = unorm2_normalize(instance, text, -1, nullptr, 0, &status);
+    UChar units[4 * kShortText];  // few texts grow to more than that; those are measured first
+    int32_t len = unorm2_normalize(instance, text, -1, units, int32_t(std::size(units)), &status);
+    const bool fits = U_SUCCESS(status) && len < int32_t(std::size(units));
     result.realloc_wdata(static_cast<unsigned long>(len) + 1);
     UChar *out = to_icu(result.m_wdata);
-    status = U_ZERO_ERROR;
-    len = unorm2_normalize(instance, text, -1, out, icu_capacity(result.m_wdata_cap), &status);
+    if (fits) {
+        std::memcpy(out, units, static_cast<unsigned long>(len) * sizeof(*units));
+    } else {
+        status = U_ZERO_ERROR;
+        len = unorm2_normalize(instance, text, -1, out, icu_capacity(result.m_wdata_cap), &status);
+    }
     if (U_FAILURE(status)) {
         warn("unorm2_normalize", status, __LINE__ - 2);
         result.clear();
@@ -599,34 +632,8 @@ ustring operator+(const ustring &a, unsigned short b) {
     return joined(a, b);
 }
 
-// The order of `compare`, of which only the sign matters here.
-
-bool operator==(const ustring &a, const ustring &b) {
-    return std::strcmp(a.c_str(), b.c_str()) == 0;
-}
-
-bool operator!=(const ustring &a, const ustring &b) {
-    return !(a == b);
-}
-
-bool operator<(const ustring &a, const ustring &b) {
-    return std::strcmp(a.c_str(), b.c_str()) < 0;
-}
-
-bool operator>(const ustring &a, const ustring &b) {
-    return b < a;
-}
-
-bool operator<=(const ustring &a, const ustring &b) {
-    return !(b < a);
-}
-
-bool operator>=(const ustring &a, const ustring &b) {
-    return !(a < b);
-}
-
 std::ostream &operator<<(std::ostream &out, const ustring &s) {
-    return out << view(s);
+    return out << bytes_of(s);
 }
 
 std::istream &operator>>(std::istream &in, ustring &s) {

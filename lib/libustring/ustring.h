@@ -1,8 +1,12 @@
 #pragma once
 
+#include <cstring>
 #include <istream>
 #include <ostream>
 #include <string>
+#include <string_view>
+
+#include "ustring-search.h"
 
 /// Unicode string of all non-GUI code.
 ///
@@ -24,8 +28,8 @@ public:
     enum normalization_form { NFC = 0, NFD = 1 };
 
     ustring();
-    ustring(const ustring &s) : ustring() { append(s, 0, npos); }
-    ustring(const char *s) : ustring() { append(s); }            // UTF-8
+    ustring(const ustring &s) { init(s.m_data, strnlen(s.m_data, s.m_data_len)); }
+    ustring(const char *s) { init(s, std::strlen(s)); }          // UTF-8
     ustring(const unsigned short *s) : ustring() { append(s); }  // UTF-16, 0-terminated
     ustring(const std::string &s) : ustring() { append(s, 0, npos); }
     ustring(char c) : ustring() { append(c, 1); }
@@ -125,7 +129,11 @@ public:
     unsigned long find_last_not_of(char c, unsigned long pos) const;
 
     /// Difference of the first pair of bytes (as unsigned values) that differs; 0 when equal.
-    int compare(const ustring &s) const;
+    int compare(const ustring &s) const {
+        const bool same =
+            m_data_len == s.m_data_len && std::memcmp(m_data, s.m_data, m_data_len) == 0;
+        return same ? 0 : difference(s);
+    }
     int compare(const ustring &s, unsigned long n) const;
     /// With `ignore_case`, ASCII letters fold; bytes of longer UTF-8 sequences do not.
     static int compare(const ustring &a, const ustring &b, bool ignore_case);
@@ -139,6 +147,8 @@ private:
     friend struct ustring_test_access;
 
     void init();
+    void init(const char *s, unsigned long n);
+    void init_capacity(unsigned long n);
     void realloc_data(unsigned long n);
     void realloc_wdata(unsigned long n) const;
     void clear_data();
@@ -152,6 +162,7 @@ private:
     void begin_wdata_edit(unsigned long n);
     void end_wdata_edit(unsigned long n);
     void keep(unsigned long pos, unsigned long n);
+    int difference(const ustring &s) const;
 
     char *m_data;
     unsigned long m_data_len;
@@ -161,6 +172,47 @@ private:
     mutable unsigned long m_wdata_cap;
 };
 
+// The four argument forms of a search differ only in where their bytes lie.
+
+inline std::string_view bytes_of(const ustring &s) {
+    return {s.c_str(), s.length()};
+}
+
+/// A NUL stands for no byte at all.
+inline std::string_view bytes_of(const char &c) {
+    return {&c, c == '\0' ? 0UL : 1UL};
+}
+
+inline std::string_view bytes_of(const std::string &s) {
+    return s;
+}
+
+inline std::string_view bytes_of(const char *s) {
+    return s;
+}
+
+#define DEFINE_SEARCH(name)                                                             \
+    inline unsigned long ustring::name(const std::string &s, unsigned long pos) const { \
+        return ustring_search::name(bytes_of(*this), bytes_of(s), pos);                 \
+    }                                                                                   \
+    inline unsigned long ustring::name(const char *s, unsigned long pos) const {        \
+        return ustring_search::name(bytes_of(*this), bytes_of(s), pos);                 \
+    }                                                                                   \
+    inline unsigned long ustring::name(const ustring &s, unsigned long pos) const {     \
+        return ustring_search::name(bytes_of(*this), bytes_of(s), pos);                 \
+    }                                                                                   \
+    inline unsigned long ustring::name(char c, unsigned long pos) const {               \
+        return ustring_search::name(bytes_of(*this), bytes_of(c), pos);                 \
+    }
+
+DEFINE_SEARCH(find)
+DEFINE_SEARCH(rfind)
+DEFINE_SEARCH(find_first_of)
+DEFINE_SEARCH(find_first_not_of)
+DEFINE_SEARCH(find_last_of)
+DEFINE_SEARCH(find_last_not_of)
+#undef DEFINE_SEARCH
+
 void swap(ustring &a, ustring &b);
 
 ustring operator+(const ustring &a, const ustring &b);
@@ -169,12 +221,34 @@ ustring operator+(const ustring &a, char b);
 ustring operator+(const ustring &a, const unsigned short *b);
 ustring operator+(const ustring &a, unsigned short b);
 
-bool operator==(const ustring &a, const ustring &b);
-bool operator!=(const ustring &a, const ustring &b);
-bool operator<(const ustring &a, const ustring &b);
-bool operator>(const ustring &a, const ustring &b);
-bool operator<=(const ustring &a, const ustring &b);
-bool operator>=(const ustring &a, const ustring &b);
+// The order of `compare`, of which only the sign matters here.
+
+// The first bytes often tell, and then no call is needed.
+
+inline bool operator==(const ustring &a, const ustring &b) {
+    return a[0] == b[0] && std::strcmp(a.c_str(), b.c_str()) == 0;
+}
+
+inline bool operator!=(const ustring &a, const ustring &b) {
+    return !(a == b);
+}
+
+inline bool operator<(const ustring &a, const ustring &b) {
+    const auto x = static_cast<unsigned char>(a[0]), y = static_cast<unsigned char>(b[0]);
+    return x != y ? x < y : std::strcmp(a.c_str(), b.c_str()) < 0;
+}
+
+inline bool operator>(const ustring &a, const ustring &b) {
+    return b < a;
+}
+
+inline bool operator<=(const ustring &a, const ustring &b) {
+    return !(b < a);
+}
+
+inline bool operator>=(const ustring &a, const ustring &b) {
+    return !(a < b);
+}
 
 std::ostream &operator<<(std::ostream &out, const ustring &s);
 /// Reads one word delimited by white space.

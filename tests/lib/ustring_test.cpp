@@ -34,6 +34,46 @@ void expect_text(const ustring &s, const std::string &text) {
     EXPECT_EQ(utf16(text), utf16(s)) << text;
 }
 
+/// Short and ASCII texts take shorter ways; lengths on both sides of every limit must not tell.
+TEST(UstringTest, LengthsAndPlacesDoNotMatter) {
+    for (const unsigned long n : {1UL, 7UL, 8UL, 9UL, 17UL, 255UL, 339UL, 340UL, 341UL, 1400UL}) {
+        SCOPED_TRACE(n);
+        const std::string plain(n, 'p');
+        std::string accents, marks;
+        for (unsigned long i = 0; i < n; ++i) {
+            accents += "\xC3\xA9";
+            marks += "e\xCC\x81";
+        }
+        for (const auto &[text, units] : {std::pair(plain, std::u16string(n, u'p')),
+                                          std::pair(accents, std::u16string(n, u'\xE9'))}) {
+            ustring s(text);
+            EXPECT_EQ(units, utf16(s));
+            ustring back(s.c_str_utf16());
+            EXPECT_EQ(text, back.c_str());
+            back += "\xFF";
+            EXPECT_EQ(u"", utf16(back));
+        }
+        EXPECT_EQ(plain, ustring(plain).normalize(ustring::NFD).c_str());
+        EXPECT_EQ(marks, ustring(accents).normalize(ustring::NFD).c_str());
+        EXPECT_EQ(accents, ustring(marks).normalize(ustring::NFC).c_str());
+
+        for (const unsigned long at : {0UL, n / 2, n - 1}) {
+            ustring cut(plain), other(plain);
+            other[at] = '\x81';
+            EXPECT_EQ('p' - 0x81, ustring(plain).compare(other));
+            EXPECT_EQ(0, ustring(plain).compare(other, at));
+            EXPECT_EQ(at, other.find_first_not_of("opq", 0));
+            EXPECT_EQ(at, other.find_last_not_of("opq", npos));
+            EXPECT_EQ(at, other.rfind("\x81", npos));
+            cut[at] = '\0';  // ends the text for comparisons and conversions
+            EXPECT_EQ(std::u16string(at, u'p'), std::u16string(utf16(cut).c_str()));
+            EXPECT_EQ(0, cut.compare(plain.substr(0, at)));
+            EXPECT_EQ(-'p', cut.compare(plain));
+            EXPECT_EQ(plain.substr(0, at), cut.normalize(ustring::NFC).c_str());
+        }
+    }
+}
+
 TEST(UstringTest, SearchesFollowTheirRulesInEveryForm) {
     using positions = std::vector<unsigned long>;
     const struct {
