@@ -37,12 +37,12 @@ int Config::read(const ustring &path) {
     if (file == nullptr)
         return -1;
 
-    char line[8192];  // a longer line counts as several lines
+    ustring key, value;  // outside the loop, to keep their buffers
+    char line[8192];     // a longer line counts as several lines
     while (std::fgets(line, sizeof(line), file.get()) != nullptr) {
-        ustring key, value;
         const int result = parse(line, static_cast<int>(std::strlen(line)), key, value);
         if (result == 0) {
-            (*this)[key] = value;
+            insert_or_assign(end(), key, value);  // right there when the file is sorted
         } else if (result == 2) {
             clear();
             return -1;
