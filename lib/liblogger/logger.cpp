@@ -187,8 +187,10 @@ void Logger::LogMsg2(Logger::Level level, ustring const &component, char const *
     if (!log_initialized) {
         return;
     }
-    InitializeLock();
-    InitializeSharedData();
+    if (log_lock == nullptr || log_size == nullptr || log_rotated_count_shared == nullptr) {
+        InitializeLock();
+        InitializeSharedData();
+    }
     if (log_lock == nullptr || log_size == nullptr || log_rotated_count_shared == nullptr) {
         return;  // out of memory
     }
