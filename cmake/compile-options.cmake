@@ -18,5 +18,5 @@ if(LUMARIS_SANITIZE)
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${LUMARIS_SANITIZE})
     # GCC's manual: this warning has false positives in instrumented code (std::regex, for one).
-    add_compile_options(-Wno-maybe-uninitialized)
+    add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()

@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Runs the fuzz targets of tests/fuzz, as many at once as there are cores. Earlier findings are
+# replayed first; what is found now is kept in build-fuzz/findings.
+# usage: scripts/fuzz.sh [SECONDS] [TARGET...]     default: 60 seconds for each of the targets
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+source scripts/sanitizers.sh
+
+seconds=60
+if [[ "${1:-}" =~ ^[0-9]+$ ]]; then
+    seconds=$1
+    shift
+fi
+targets=("$@")
+[ $# -gt 0 ] || targets=(extractor ustring config info)
+
+install_packages "${PACKAGES[@]}" clang libclang-rt-dev llvm bubblewrap
+build fuzz
+
+export ASAN_SYMBOLIZER_PATH=/usr/bin/llvm-symbolizer
+FINDINGS=$ROOT/build-fuzz/findings
+WORK=$(mktemp -d "$ROOT/build-fuzz/work.XXXXXX")
+trap 'rm -rf "$WORK"' EXIT
+
+# A package may write through links wherever the user can: here that is one small tmpfs and the
+# target's own work folder. Without a PATH, libarchive finds none of the programs that it would
+# start for rare filters, so that a run means the same on every machine.
+sandboxed() { # sandboxed TARGET ARGUMENT...
+    local target=$1
+    shift
+    mkdir -p "$WORK/$target/corpus"
+    bwrap --unshare-user --unshare-net --die-with-parent --ro-bind / / --dev /dev \
+        --size $((128 << 20)) --tmpfs /mnt --dir /mnt/tmp --bind "$WORK/$target" /mnt/work \
+        --setenv TMPDIR /mnt/tmp --setenv PATH /none --chdir /mnt/tmp \
+        "$ROOT/build-fuzz/tests/fuzz/${target}_fuzzer" -timeout=10 -rss_limit_mb=2048 \
+        -handle_xfsz=0 -artifact_prefix=/mnt/work/ "$@"
+}
+
+fuzz() { # fuzz TARGET: prints its closing line; its status is 1 when something was found
+    local target=$1 log=$WORK/$1.log status=0 crashes=()
+    mapfile -t crashes < <(find "$ROOT/tests/fuzz/crashes/$target" -type f 2>/dev/null)
+    [ ${#crashes[@]} -eq 0 ] || sandboxed "$target" "${crashes[@]}" >"$log" 2>&1 || status=1
+    [ $status -ne 0 ] || sandboxed "$target" -max_total_time="$seconds" -print_final_stats=1 \
+        /mnt/work/corpus "$ROOT/tests/fuzz/corpus/$target" >"$log" 2>&1 || status=1
+    say "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") executions in" \
+        "$seconds s, ${#crashes[@]} earlier findings replayed, $(sed -n \
+            's/.*INITED \(cov: [0-9]* ft: [0-9]*\) .*/\1/p' "$log") ->" \
+        "$(grep -o 'cov: [0-9]* ft: [0-9]*' "$log" | tail -n 1), findings: $status"
+    [ $status -eq 0 ] && return
+    mkdir -p "$FINDINGS"
+    cp "$log" "$FINDINGS/$target.log"
+    find "$WORK/$target" -maxdepth 1 -type f -exec cp {} "$FINDINGS" \;
+    grep -m 5 -E 'not so|ERROR|SUMMARY|runtime error' "$log" || tail -n 5 "$log"
+    say "kept in ${FINDINGS#"$ROOT"/}"
+    return 1
+}
+
+failed=0
+for target in "${targets[@]}"; do
+    [ "$(jobs -rp | wc -l)" -lt "$(nproc)" ] || wait -n || failed=1
+    fuzz "$target" &
+done
+while [ -n "$(jobs -p)" ]; do
+    wait -n || failed=1
+done
+exit $failed
