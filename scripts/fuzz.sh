@@ -16,6 +16,8 @@ targets=("$@")
 install_packages "${PACKAGES[@]}" clang libclang-rt-dev llvm bubblewrap
 build fuzz
 
+# Many times faster than the whole stacks that the other instrumented programs keep.
+ASAN_OPTIONS+=:fast_unwind_on_malloc=1:quarantine_size_mb=8
 export ASAN_SYMBOLIZER_PATH=/usr/bin/llvm-symbolizer
 FINDINGS=$ROOT/build-fuzz/findings
 WORK=$(mktemp -d "$ROOT/build-fuzz/work.XXXXXX")
