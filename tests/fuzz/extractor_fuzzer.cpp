@@ -68,12 +68,13 @@ bool HoldsLink(const fs::path &package) {
     return link;
 }
 
-void Unlock(const fs::path &folder) {
+void Unlock(const fs::path &path) {
     std::error_code error;
-    fs::permissions(folder, fs::perms::owner_all, error);
-    for (const fs::directory_entry &entry : fs::directory_iterator(folder, error))
-        if (entry.symlink_status().type() == fs::file_type::directory)
-            Unlock(entry.path());
+    if (fs::symlink_status(path).type() != fs::file_type::directory)
+        return;
+    fs::permissions(path, fs::perms::owner_all, error);
+    for (const fs::directory_entry &entry : fs::directory_iterator(path, error))
+        Unlock(entry.path());
 }
 
 /// Folders may lack permissions, and be deeper than a path can say.
@@ -87,11 +88,14 @@ void Remove(const fs::path &folder) {
     }
 }
 
-std::string FolderState(const fs::path &folder) {
+/// What lies beside the destination; a nameless entry may have taken the place of that itself.
+std::string Beside(const fs::path &dest) {
     std::string state;
-    for (const fs::directory_entry &entry : fs::directory_iterator(folder))
-        state += entry.path().string() + " " +
-                 (entry.is_regular_file() ? std::to_string(entry.file_size()) : "") + "\n";
+    for (const fs::path &folder : {dest.parent_path(), dest.parent_path().parent_path()})
+        for (const fs::directory_entry &entry : fs::directory_iterator(folder))
+            if (entry.path() != dest)
+                state += entry.path().string() + " " +
+                         (entry.is_regular_file() ? std::to_string(entry.file_size()) : "") + "\n";
     return state;
 }
 
@@ -134,15 +138,15 @@ extern "C" size_t LLVMFuzzerCustomMutator(uint8_t *data, size_t size, size_t max
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
-    const fs::path dest = OwnFolder() / "d";
-    Extractor extractor;
-    extractor.m_src_path = (OwnFolder() / "package").c_str();
-    extractor.m_dest_path = dest.c_str();
-    WriteFile(OwnFolder() / "package", Bytes(data, size));
-    fs::create_directory(dest);
-    const bool link = HoldsLink(OwnFolder() / "package");
-    const std::string before = FolderState(OwnFolder());
+    const fs::path folder = OwnFolder() / "run", package = folder / "package", dest = folder / "d";
+    fs::create_directories(dest);
+    WriteFile(package, Bytes(data, size));
+    const bool link = HoldsLink(package);
+    const std::string before = Beside(dest);
 
+    Extractor extractor;
+    extractor.m_src_path = package.c_str();
+    extractor.m_dest_path = dest.c_str();
     const int count = extractor.Count();
     MUST(extractor.List() == (count < 0 ? -1 : 0));
     reports = 0;
@@ -151,8 +155,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (result == 0)
         MUST(count > 0 && reports == count && reported_total == count);
     if (!link)
-        MUST(FolderState(OwnFolder()) == before);
+        MUST(Beside(dest) == before);
     ReachMessages();
-    Remove(dest);
+    Remove(folder);
     return 0;
 }

@@ -108,115 +108,54 @@ void CheckSubstr(const ustring &u, const std::string &s, unsigned long pos, unsi
     }
 }
 
+#define EDIT(number, of_ustring, of_plain) \
+    case number:                           \
+        of_ustring;                        \
+        of_plain;                          \
+        break
+
 /// Edits both alike. `x` holds no NUL.
 void Edit(ustring &u, std::string &s, int what, const std::string &x, unsigned long pos,
           unsigned long n) {
     const char c = x.empty() ? '/' : x[0];
-    const unsigned long at = std::min(pos, s.size());
+    const unsigned long at = std::min(pos, s.size()), in_x = std::min(pos, x.size()), few = n % 8;
     icu::UnicodeString units = Units(x);
-    // A lone surrogate now and then.
-    const auto unit = static_cast<unsigned short>(0xd7f0 + pos % 0x820);
-    const auto few = static_cast<int32_t>(n % 8);
-    const auto take = [](const icu::UnicodeString &text, unsigned long count) {
-        return text.tempSubString(0, static_cast<int32_t>(std::min(count, 1UL << 30)));
+    const auto unit = static_cast<unsigned short>(0xd7f0 + pos % 0x820);  // at times a surrogate
+    const auto repeated = [](unsigned short value, unsigned long count) {
+        const auto times = static_cast<int32_t>(count);
+        return icu::UnicodeString(times, value, times);
     };
+    const auto first = [](const icu::UnicodeString &text, unsigned long count) {
+        return text.tempSubString(0, static_cast<int32_t>(std::min<unsigned long>(count, 4096)));
+    };
+    const auto trim_left = [&x](std::string &text) { text.erase(0, text.find_first_not_of(x)); };
+    const auto trim_right = [&x](std::string &text) { text.erase(text.find_last_not_of(x) + 1); };
+    std::istringstream words(x + " "), same(x + " ");
+    std::string word;
     switch (what) {
-        case 0:
-            u.append(x.c_str(), n);
-            s.append(x.substr(0, n));
-            break;
-        case 1:
-            u.append(ustring(x), std::min(pos, x.size()), n);
-            s.append(x, std::min(pos, x.size()), n);
-            break;
-        case 2:
-            u.append(u.c_str() + at, n);
-            s.append(s.substr(at, n));
-            break;
-        case 3:
-            u += u;
-            s += std::string(s);
-            break;
-        case 4:
-            u.append(Pointer(units), n);
-            s = Text(Units(s) + take(units, n));
-            break;
-        case 5:
-            u.append(unit, static_cast<unsigned long>(few));
-            s = Text(Units(s) + icu::UnicodeString(few, unit, few));
-            break;
-        case 6:
-            u.append(u.c_str_utf16(), n);
-            s = Text(Units(s) + take(Units(s), n));
-            break;
-        case 7:
-            u.append(c, n % 64);
-            s.append(n % 64, c);
-            break;
-        case 8:
-            u.assign(x.c_str(), n);
-            s = x.substr(0, n);
-            break;
-        case 9:
-            u.assign(u.c_str() + at, n);
-            s = s.substr(at, n);
-            break;
-        case 10:
-            u.assign(u.c_str_utf16(), n);
-            s = Text(take(Units(s), n));
-            break;
-        case 11:
-            u.assign(u, at, n);
-            s = s.substr(at, n);
-            break;
-        case 12:
-            u.assign(Pointer(units), n);
-            s = Text(take(units, n));
-            break;
-        case 13:
-            u.ltrim(x.c_str());
-            s.erase(0, s.find_first_not_of(x));
-            break;
-        case 14:
-            u.rtrim(ustring(x));
-            s.erase(s.find_last_not_of(x) + 1);
-            break;
-        case 15:
-            u.trim(x.c_str());
-            s.erase(0, s.find_first_not_of(x));
-            s.erase(s.find_last_not_of(x) + 1);
-            break;
-        case 16:
-            u.replace(c, '/');
-            std::replace(s.begin(), s.end(), c, '/');
-            break;
-        case 17: {
-            ustring other(x);
-            swap(u, other);
-            MUST(other.c_str() == s);
-            s = x;
-            break;
-        }
-        case 18: {
-            std::istringstream in(s), same(s);
-            in >> u;
-            same >> s;
-            break;
-        }
-        case 19:
-            if (!s.empty()) {
-                u[at % s.size()] = c;
-                s[at % s.size()] = c;
-            }
-            break;
-        case 20:
-            u = ustring(s) + x.c_str() + c;
-            s += x + c;
-            break;
+        EDIT(0, u.append(x.c_str(), n), s.append(x.substr(0, n)));
+        EDIT(1, u.append(ustring(x), in_x, n), s.append(x, in_x, n));
+        EDIT(2, u.append(u.c_str() + at, n), s.append(s.substr(at, n)));
+        EDIT(3, u += u, s += std::string(s));
+        EDIT(4, u.append(Pointer(units), n), s = Text(Units(s) + first(units, n)));
+        EDIT(5, u.append(unit, few), s = Text(Units(s) + repeated(unit, few)));
+        EDIT(6, u.append(u.c_str_utf16(), n), s = Text(Units(s) + first(Units(s), n)));
+        EDIT(7, u.append(c, few), s.append(few, c));
+        EDIT(8, u.assign(x.c_str(), n), s = x.substr(0, n));
+        EDIT(9, u.assign(u.c_str() + at, n), s = s.substr(at, n));
+        EDIT(10, u.assign(u.c_str_utf16(), n), s = Text(first(Units(s), n)));
+        EDIT(11, u.assign(u, at, n), s = s.substr(at, n));
+        EDIT(12, u.assign(Pointer(units), n), s = Text(first(units, n)));
+        EDIT(13, u.ltrim(x.c_str()), trim_left(s));
+        EDIT(14, u.rtrim(ustring(x)), trim_right(s));
+        EDIT(15, u.trim(x.c_str()), (trim_left(s), trim_right(s)));
+        EDIT(16, u.replace(c, '/'), std::replace(s.begin(), s.end(), c, '/'));
+        EDIT(17, u = ustring(s) + x.c_str() + c, s += x + c);
+        EDIT(18, words >> u, (same >> word, s = word));
+        EDIT(19, s.empty() || (u[at % s.size()] = c), s.empty() || (s[at % s.size()] = c));
         default:
             u.clear();
             s.clear();
-            break;
     }
 }
 
@@ -232,7 +171,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     ustring u;
     std::string s;
     while (in.remaining_bytes() > 0) {
-        const int what = in.ConsumeIntegralInRange(0, 21);
+        const int what = in.ConsumeIntegralInRange(0, 20);
         const std::string x = in.ConsumeRandomLengthString().c_str();
         const auto number = [&in] {
             const auto value = in.ConsumeIntegral<uint8_t>();
