@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstring>
+#include <thread>
 
 #include "launch-fixture.h"
 #include "own-mounts.h"
@@ -210,6 +211,9 @@ TEST_F(LaunchTest, FiftyAtOnce) {
     const fs::path package = resources / "package/lumaris.wpk";
     fs::remove(package);
     ASSERT_EQ(0, mkfifo(package.c_str(), 0600));
+    double load = 0;
+    getloadavg(&load, 1);
+    const bool quiet = load < 2 * std::thread::hardware_concurrency();
     Slowest slowest;
     int broken = 0;
     for (int round = 0; round < rounds; ++round) {
@@ -237,11 +241,13 @@ TEST_F(LaunchTest, FiftyAtOnce) {
         EXPECT_EQ(!good || round % 3 == 2, Lock() == "");
         StopClient();
     }
-    EXPECT_LT(slowest.own, 5) << "on a machine with nothing else to do";
+    // Where others queue too, so do those who hold a lock of the file system: nothing to judge
+    // then.
+    EXPECT_TRUE(slowest.own < 5 || !quiet) << slowest.own;
     printf(
         "launchers at once: %d rounds of %zu, slowest loser %.1f s (%.1f s without the queue for "
-        "a processor), broken %d\n",
-        rounds, launchers, slowest.seconds, slowest.own, broken);
+        "a processor%s), broken %d\n",
+        rounds, launchers, slowest.seconds, slowest.own, quiet ? "" : ", machine busy", broken);
 }
 
 }  // namespace
