@@ -6,6 +6,7 @@ import re
 import select
 import statistics
 import subprocess
+import tempfile
 import time
 from dataclasses import dataclass
 from pathlib import Path
@@ -56,29 +57,40 @@ def duration(seconds: float) -> str:
     return f"{seconds * 1e9:.3g} ns"
 
 
-def run(*words: object) -> tuple[float, float]:
-    """Seconds and peak resident megabytes. What earlier runs wrote is on the disk by then."""
+@dataclass
+class Finished:
+    started: float  # on the monotonic clock
+    seconds: float
+    megabytes: float  # peak resident memory
+
+
+def run(*words: object) -> Finished:
+    """Runs a program; what earlier ones wrote is on the disk by then."""
     os.sync()
     argv = [str(word) for word in words]
-    start = time.perf_counter()
-    process = subprocess.Popen(argv, stdout=subprocess.DEVNULL)
-    _, status, usage = os.wait4(process.pid, 0)
-    seconds = time.perf_counter() - start
-    process.returncode = os.waitstatus_to_exitcode(status)
-    if process.returncode != 0:
-        raise SystemExit(f"error: status {process.returncode}: {' '.join(argv)}")
-    return seconds, usage.ru_maxrss / 1024
+    with tempfile.TemporaryFile() as errors:
+        start = time.monotonic()
+        process = subprocess.Popen(argv, stdout=subprocess.DEVNULL, stderr=errors)
+        _, status, usage = os.wait4(process.pid, 0)
+        seconds = time.monotonic() - start
+        process.returncode = os.waitstatus_to_exitcode(status)
+        if process.returncode != 0:
+            errors.seek(0)
+            text = errors.read().decode(errors="replace")
+            raise SystemExit(f"{text}error: status {process.returncode}: {' '.join(argv)}")
+    return Finished(start, seconds, usage.ru_maxrss / 1024)
 
 
 def seconds(*words: object) -> float:
-    return run(*words)[0]
+    return run(*words).seconds
 
 
 def printed(*words: object) -> float:
     """The number that the program prints."""
     os.sync()
     argv = [str(word) for word in words]
-    return float(subprocess.run(argv, stdout=subprocess.PIPE, check=True).stdout)
+    result = subprocess.run(argv, capture_output=True, check=True)
+    return float(result.stdout)
 
 
 def until_client(home: Path, *words: object) -> float:
@@ -87,13 +99,12 @@ def until_client(home: Path, *words: object) -> float:
     if not pipe.exists():
         os.mkfifo(pipe)
     reader = os.open(pipe, os.O_RDONLY | os.O_NONBLOCK)
-    start = time.clock_gettime_ns(time.CLOCK_MONOTONIC)
-    run(*words)
+    started = run(*words).started
     if not select.select([reader], [], [], 10)[0]:
         raise SystemExit(f"error: {words[0]} opened no client")
     stamp = int(os.read(reader, 64))
     os.close(reader)
-    return (stamp - start) / 1e9
+    return stamp / 1e9 - started
 
 
 def turns(count: int, ours: Callable[[], float], peer: Callable[[], float]) -> list[Pair]:

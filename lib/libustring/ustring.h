@@ -129,11 +129,7 @@ public:
     unsigned long find_last_not_of(char c, unsigned long pos) const;
 
     /// Difference of the first pair of bytes (as unsigned values) that differs; 0 when equal.
-    int compare(const ustring &s) const {
-        const bool same =
-            m_data_len == s.m_data_len && std::memcmp(m_data, s.m_data, m_data_len) == 0;
-        return same ? 0 : difference(s);
-    }
+    int compare(const ustring &s) const;
     int compare(const ustring &s, unsigned long n) const;
     /// With `ignore_case`, ASCII letters fold; bytes of longer UTF-8 sequences do not.
     static int compare(const ustring &a, const ustring &b, bool ignore_case);
@@ -223,10 +219,19 @@ ustring operator+(const ustring &a, unsigned short b);
 
 // The order of `compare`, of which only the sign matters here.
 
-// The first bytes often tell, and then no call is needed.
+/// Equal bytes; texts that end at a NUL within them may be equal without.
+inline bool same_bytes(const ustring &a, const ustring &b) {
+    return a.length() == b.length() && std::memcmp(a.c_str(), b.c_str(), a.length()) == 0;
+}
+
+inline int ustring::compare(const ustring &s) const {
+    return same_bytes(*this, s) ? 0 : difference(s);
+}
+
+// The first bytes or the lengths often tell, and memcmp is faster than strcmp.
 
 inline bool operator==(const ustring &a, const ustring &b) {
-    return a[0] == b[0] && std::strcmp(a.c_str(), b.c_str()) == 0;
+    return same_bytes(a, b) || (a[0] == b[0] && std::strcmp(a.c_str(), b.c_str()) == 0);
 }
 
 inline bool operator!=(const ustring &a, const ustring &b) {
@@ -235,7 +240,7 @@ inline bool operator!=(const ustring &a, const ustring &b) {
 
 inline bool operator<(const ustring &a, const ustring &b) {
     const auto x = static_cast<unsigned char>(a[0]), y = static_cast<unsigned char>(b[0]);
-    return x != y ? x < y : std::strcmp(a.c_str(), b.c_str()) < 0;
+    return x != y ? x < y : !same_bytes(a, b) && std::strcmp(a.c_str(), b.c_str()) < 0;
 }
 
 inline bool operator>(const ustring &a, const ustring &b) {
