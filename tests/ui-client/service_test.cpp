@@ -49,6 +49,13 @@ TEST_F(ServiceTest, Versions) {
         {"[Version]\nbuild_version=12a\n", ", , 12a, "},
         {"major_version=2\n[Other]\nbuild_version=3\n", ", , , "},
         {"[Version\nbuild_version=4", ", , 4, "},  // the settings reader is lenient
+        {"[Version]\nbuild_version=5@b\n", ", , 5@b, "},
+        // Objects, the last of them broken, are not for the settings reader to rebuild.
+        {"[Version]\nbuild_version=1\nx=\"@\" Variant(\n", ", , , "},
+        {"[Version]\nbuild_version=1\nx=@\\qDateTime(\n", ", , , "},
+        {"[Version]\nbuild_version=1\nx=\\x10040Variant(\n", ", , , "},
+        {"[Version]\nbuild_version=1\nx=\\0100\"Variant(\n", ", , , "},
+        {"[Version]\nbuild_version=1 , @Variant(\\0\\0\\0\\xByteA)\n", ", , , "},
     };
     int number = 0;
     for (const auto &row : cases) {

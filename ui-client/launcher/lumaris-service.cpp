@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QVariant>
 #include <cstdio>
@@ -38,8 +40,22 @@ struct Version {
     ustring &icon_overlay;
 };
 
-/// Reads the keys that the INFO file at `path` holds; a missing file holds none.
+/// The settings reader rebuilds whole objects from values such as "@Variant(...)", and a damaged
+/// one ends the program. Looked for is the "@" before such a name, however quoted or escaped.
+bool HoldsSerializedObject(const QString &path) {
+    static const QRegularExpression object(
+        QStringLiteral(R"((@|\\x[0-9a-fA-F]*40|\\[0-7]*100)["\s]*[VD\\])"));
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && QString::fromLatin1(file.readAll()).contains(object);
+}
+
+/// Reads the keys that the INFO file at `path` holds; a missing file holds none, and neither does
+/// one that is more than text.
 void ReadVersion(const ustring &path, const Version &version) {
+    if (HoldsSerializedObject(ToQString(path))) {
+        MSG_WARNING("ignored '%s': it holds more than text\n", path.c_str());
+        return;
+    }
     QSettings info(ToQString(path), QSettings::IniFormat);
     info.beginGroup(QStringLiteral("Version"));
     const auto read = [&info](const QString &key, ustring &member) {
