@@ -555,8 +555,10 @@ ustring ustring::normalize(const ustring &src, normalization_form form) {
     if (src.empty())
         return result;
     // ASCII is the same in both forms, and nearly all paths are ASCII.
-    if (is_plain(reinterpret_cast<const unsigned char *>(src.m_data), src.m_data_len))
-        return result.append_bytes(src.m_data, src.m_data_len);
+    if (is_plain(reinterpret_cast<const unsigned char *>(src.m_data), src.m_data_len)) {
+        result.append_bytes(src.m_data, src.m_data_len);
+        return result;
+    }
 
     UErrorCode status = U_ZERO_ERROR;
     const UNormalizer2 *instance = unorm2_getInstance(nullptr, "nfc", modes[form], &status);
