@@ -21,7 +21,7 @@ ASAN_OPTIONS+=:fast_unwind_on_malloc=1:quarantine_size_mb=8
 export ASAN_SYMBOLIZER_PATH=/usr/bin/llvm-symbolizer
 FINDINGS=$ROOT/build-fuzz/findings
 WORK=$(mktemp -d "$ROOT/build-fuzz/work.XXXXXX")
-trap 'rm -rf "$WORK"' EXIT
+trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$WORK"' EXIT
 
 # A package may write through links wherever the user can: here that is one small tmpfs and the
 # target's own work folder. Without a PATH, libarchive finds none of the programs that it would
@@ -39,14 +39,14 @@ sandboxed() { # sandboxed TARGET ARGUMENT...
 
 fuzz() { # fuzz TARGET: prints its closing line; its status is 1 when something was found
     local target=$1 log=$WORK/$1.log status=0 crashes=()
+    coverage() { grep -o 'cov: [0-9]* ft: [0-9]*' "$log" | "$1" -n 1; }
     mapfile -t crashes < <(find "$ROOT/tests/fuzz/crashes/$target" -type f 2>/dev/null)
     [ ${#crashes[@]} -eq 0 ] || sandboxed "$target" "${crashes[@]}" >"$log" 2>&1 || status=1
     [ $status -ne 0 ] || sandboxed "$target" -max_total_time="$seconds" -print_final_stats=1 \
         /mnt/work/corpus "$ROOT/tests/fuzz/corpus/$target" >"$log" 2>&1 || status=1
     say "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") executions in" \
-        "$seconds s, ${#crashes[@]} earlier findings replayed, $(sed -n \
-            's/.*INITED \(cov: [0-9]* ft: [0-9]*\) .*/\1/p' "$log") ->" \
-        "$(grep -o 'cov: [0-9]* ft: [0-9]*' "$log" | tail -n 1), findings: $status"
+        "$seconds s, coverage $(coverage head) to $(coverage tail)," \
+        "${#crashes[@]} earlier findings replayed, new findings: $status"
     [ $status -eq 0 ] && return
     mkdir -p "$FINDINGS"
     cp "$log" "$FINDINGS/$target.log"
