@@ -45,7 +45,7 @@ fuzz() { # fuzz TARGET: prints its closing line; its status is 1 when something 
     [ $status -ne 0 ] || sandboxed "$target" -max_total_time="$seconds" -print_final_stats=1 \
         /mnt/work/corpus "$ROOT/tests/fuzz/corpus/$target" >"$log" 2>&1 || status=1
     say "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") executions in" \
-        "$seconds s, coverage $(coverage head) to $(coverage tail)," \
+        "$seconds s, $(coverage head) to $(coverage tail)," \
         "${#crashes[@]} earlier findings replayed, new findings: $status"
     [ $status -eq 0 ] && return
     mkdir -p "$FINDINGS"
