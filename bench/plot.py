@@ -5,7 +5,7 @@ from pathlib import Path
 from xml.sax.saxutils import escape
 
 Points = list[tuple[float, float]]
-WIDTH, HEIGHT, LEFT, RIGHT, TOP, BOTTOM = 560, 360, 70, 20, 40, 50
+WIDTH, HEIGHT, LEFT, RIGHT, TOP, BOTTOM = 560, 360, 70, 40, 40, 50
 COLOURS = ("#1f5fa8", "#c0562b", "#4b8b3b")
 
 
