@@ -18,8 +18,6 @@
 
 namespace {
 
-constexpr unsigned long npos = ustring::npos;
-
 /// Rows by the low half of a byte: neighbours in a set lie in different rows, so that setting one
 /// does not wait for the other, and clearing 32 bytes costs next to nothing.
 class byte_set {
