@@ -163,7 +163,7 @@ TEST_F(LaunchTest, EndedWhileExtracting) {
         EXPECT_TRUE(fs::exists(client) && fs::file_size(client) < fs::file_size(CLIENT));
         EXPECT_EQ("old", ReadFile(Backup() / "old file"));
         EXPECT_TRUE(Launch() == 0 && NewOneIsWhole() && ClientRuns()) << LauncherLog();
-        EXPECT_TRUE(!fs::exists(Backup(1)) && Lock() == "");
+        EXPECT_TRUE(!fs::exists(Backup(1)));
         StopClient();
     }
 }
@@ -239,7 +239,6 @@ TEST_F(LaunchTest, FiftyAtOnce) {
                 kill(process.pid, SIGKILL);
             EXPECT_EQ(good && round % 3 == 2 ? 0 : 1000 + SIGKILL, Finish(process.pid));
         }
-        EXPECT_EQ(!good || round % 3 == 2, Lock() == "");
         StopClient();
     }
     // Where others queue too, so do those who hold a lock of the file system: nothing to judge

@@ -228,5 +228,5 @@ class Sandbox:
         own = {"Lumaris.app", "log", "ui.pid"}
         names = [str(self.folder / n) for n in os.listdir(self.folder) if n not in own]
         names += [str(self.home / n) for n in os.listdir(self.home) if n != ".LumarisBackup"]
-        names += [str(self.tmp / n) for n in os.listdir(self.tmp)]
+        names += [str(self.tmp / n) for n in os.listdir(self.tmp) if not n.endswith("lockfile")]
         return sorted(os.path.relpath(name, self.root) for name in names)
