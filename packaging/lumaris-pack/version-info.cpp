@@ -1,8 +1,6 @@
 #include "version-info.h"
 
 #include <QFile>
-#include <QSettings>
-#include <QString>
 
 #include "package-rules.h"
 
@@ -15,17 +13,15 @@ std::string InfoText(const VersionInfo &version) {
 }
 
 std::string InfoDifference(const std::string &path, const VersionInfo &version) {
-    QSettings info(QFile::decodeName(path.c_str()), QSettings::IniFormat);
-    if (info.status() != QSettings::NoError) {
-        return "cannot be read as an INI file";
+    InfoTexts texts;
+    if (ReadInfoFile(QFile::decodeName(path.c_str()), texts) != 0) {
+        return "holds a serialized object, for which the launcher ignores it";
     }
-    info.beginGroup(QStringLiteral("Version"));
     for (std::size_t i = 0; i < version.size(); ++i) {
-        const QString key = QLatin1String(kVersionKeys[i]);
-        const std::string found = info.value(key).toString().toStdString();
+        const std::string found = texts[i] ? texts[i]->toStdString() : std::string();
         if (found != version[i]) {
-            return "has " + key.toStdString() + " " + Quoted(found) + ", the package would have " +
-                   Quoted(version[i]);
+            return "has " + std::string(kVersionKeys[i]) + " " + Quoted(found) +
+                   ", the package would have " + Quoted(version[i]);
         }
     }
     return {};

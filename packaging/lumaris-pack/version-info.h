@@ -3,9 +3,7 @@
 #include <array>
 #include <string>
 
-/// The keys of the group "Version" of an INFO file.
-inline constexpr std::array<const char *, 4> kVersionKeys = {
-    "major_version", "minor_version", "build_version", "icon_overlay_version"};
+#include "info-file.h"
 
 /// The values, in the order of the keys.
 using VersionInfo = std::array<std::string, kVersionKeys.size()>;

@@ -1,15 +1,14 @@
 #include "lumaris-service.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QRegularExpression>
-#include <QSettings>
-#include <QVariant>
+#include <array>
 #include <cstdio>
+#include <tuple>
 
+#include "client-layout.h"
 #include "extractor.h"
 #include "file-op.h"
+#include "info-file.h"
+#include "install-paths.h"
 #include "log-macros.h"
 #include "qt-text.h"
 
@@ -33,39 +32,18 @@ ustring GetAppBackupDir(const ustring &app, int index) {
     return backup + postfix;
 }
 
-struct Version {
-    ustring &major;
-    ustring &minor;
-    ustring &build;
-    ustring &icon_overlay;
-};
-
-/// The settings reader rebuilds whole objects from values such as "@Variant(...)", and a damaged
-/// one ends the program. Looked for is the "@" before such a name, however quoted or escaped.
-bool HoldsSerializedObject(const QString &path) {
-    static const QRegularExpression object(
-        QStringLiteral(R"((@|\\x[0-9a-fA-F]*40|\\[0-7]*100)["\s]*[VD\\])"));
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && QString::fromLatin1(file.readAll()).contains(object);
-}
-
-/// Reads the keys that the INFO file at `path` holds; a missing file holds none, and neither does
-/// one that is more than text.
-void ReadVersion(const ustring &path, const Version &version) {
-    if (HoldsSerializedObject(ToQString(path))) {
+/// Reads the keys that the INFO file at `path` holds into their members, in the order of the keys.
+void LoadVersion(const ustring &path,
+                 const std::array<ustring *, std::tuple_size<InfoTexts>::value> &members) {
+    InfoTexts texts;
+    if (ReadInfoFile(ToQString(path), texts) != 0) {
         MSG_WARNING("ignored '%s': it holds more than text\n", path.c_str());
-        return;
     }
-    QSettings info(ToQString(path), QSettings::IniFormat);
-    info.beginGroup(QStringLiteral("Version"));
-    const auto read = [&info](const QString &key, ustring &member) {
-        if (info.contains(key))
-            member = ToUString(info.value(key).toString());
-    };
-    read(QStringLiteral("major_version"), version.major);
-    read(QStringLiteral("minor_version"), version.minor);
-    read(QStringLiteral("build_version"), version.build);
-    read(QStringLiteral("icon_overlay_version"), version.icon_overlay);
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (texts[i]) {
+            *members[i] = ToUString(*texts[i]);
+        }
+    }
 }
 
 /// Moves the bundle to the first backup name that is free. Returns its index and sets `backup`,
@@ -94,10 +72,6 @@ void Rollback(const ustring &app, const ustring &backup) {
     FSRename(backup, app, false);
 }
 
-ustring ApplicationDir() {
-    return ToUString(QCoreApplication::applicationDirPath());
-}
-
 }  // namespace
 
 Service::~Service() = default;
@@ -107,22 +81,22 @@ void Service::SetTimeout(int timeout) {
 }
 
 void Service::LoadTargetVersion() {
-    ReadVersion(GetRootLumarisResourceInstallPath() + "/" + "INFO",
-                {m_target_major_version, m_target_minor_version, m_target_build_version,
-                 m_target_icon_overlay_version});
+    LoadVersion(GetRootLumarisResourceInstallPath() + "/" + kInfoFile,
+                {&m_target_major_version, &m_target_minor_version, &m_target_build_version,
+                 &m_target_icon_overlay_version});
     MSG_INFO("target_version = (%s, %s, %s, %s)\n", m_target_major_version.c_str(),
              m_target_minor_version.c_str(), m_target_build_version.c_str(),
              m_target_icon_overlay_version.c_str());
 }
 
 void Service::LoadSourceVersion() {
-    const ustring path = GetUserLumarisAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
+    const ustring path = GetUserLumarisAppInstallPath() + "/" + kResources + "/" + kInfoFile;
     if (!IsFileExist(path, false)) {
         MSG_INFO("source does not exist\n");
         return;
     }
-    ReadVersion(path, {m_source_major_version, m_source_minor_version, m_source_build_version,
-                       m_source_icon_overlay_version});
+    LoadVersion(path, {&m_source_major_version, &m_source_minor_version, &m_source_build_version,
+                       &m_source_icon_overlay_version});
     MSG_INFO("source_version = (%s, %s, %s, %s)\n", m_source_major_version.c_str(),
              m_source_minor_version.c_str(), m_source_build_version.c_str(),
              m_source_icon_overlay_version.c_str());
@@ -149,7 +123,7 @@ int Service::PrepareUserEnv() {
 }
 
 int Service::ExtractPackage() {
-    const ustring package = GetRootLumarisResourceInstallPath() + "/package/lumaris.wpk";
+    const ustring package = GetRootLumarisResourceInstallPath() + "/" + kPackageFile;
     const ustring dest = GetUserLumarisAppInstallPath();
     if (FSMKDir(dest, true) < 0) {
         MSG_ERROR("failed to create folder: '%s'\n", dest.c_str());
@@ -209,34 +183,32 @@ int Service::FSCopyPath(const ustring &src, const ustring &dst) {
 }
 
 ustring Service::GetUserInstallPath() {
-    return ToUString(QDir::homePath());
+    return InstallPaths::Home();
 }
 
 ustring Service::GetUserLumarisInstallPath() {
-    return GetUserInstallPath() + "/" + ".LumarisBackup";
+    return InstallPaths::UserFolder();
 }
 
 ustring Service::GetUserLumarisAppInstallPath() {
-    return GetUserLumarisInstallPath() + "/" + "Lumaris.app";
+    return InstallPaths::UserBundle();
 }
 
 ustring Service::GetUserLumarisDataInstallPath() {
-    return GetUserLumarisInstallPath() + "/" + "data";
+    return InstallPaths::UserData();
 }
 
 ustring Service::GetRootLumarisInstallPath() {
-    const QString bundle =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/") + QStringLiteral("../..");
-    return ToUString(QDir::cleanPath(bundle));
+    return InstallPaths::LauncherBundle();
 }
 
 ustring Service::GetRootLumarisResourceInstallPath() {
-    return GetRootLumarisInstallPath() + "/Contents/Resources";
+    return InstallPaths::LauncherResources();
 }
 
 PackageInfo::PackageInfo()
-    : images(ApplicationDir() + "/images"),
-      log(Service::GetUserInstallPath() + "/.Lumaris_log"),
-      debug_file(ApplicationDir() + "/log/launcher.debug"),
-      package(ApplicationDir() + "/package/lumaris.wpk"),
-      conf(ApplicationDir() + "/conf") {}
+    : images(InstallPaths::ApplicationFolder() + "/images"),
+      log(InstallPaths::Home() + "/.Lumaris_log"),
+      debug_file(InstallPaths::ApplicationFolder() + "/log/launcher.debug"),
+      package(InstallPaths::ApplicationFolder() + "/" + kPackageFile),
+      conf(InstallPaths::ApplicationFolder() + "/conf") {}

@@ -3,13 +3,13 @@
 #include <QFont>
 #include <QIcon>
 
-#include "lumaris-service.h"
+#include "install-paths.h"
 #include "qt-text.h"
 #include "str-table.h"
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
     const QFont font(QStringLiteral("Arial"));
-    const QString icon = ToQString(Service::GetRootLumarisResourceInstallPath()) +
+    const QString icon = ToQString(InstallPaths::LauncherResources()) +
                          QStringLiteral("/images/ico_72_lumaris.png");
 
     setWindowTitle(StrTable::LoadStr(217));

@@ -1,7 +1,8 @@
 #include "worker.h"
 
 #include "log-macros.h"
-#include "mac/mac-service.h"
+#include "lumaris-service.h"
+#include "service-factory.h"
 #include "str-table.h"
 
 #define LOG_MODULE "launcher"
@@ -11,7 +12,7 @@ void HandlerThread::run() {
     exec();
 }
 
-Worker::Worker() : QObject(nullptr), thread(nullptr), service(new MacService) {
+Worker::Worker() : QObject(nullptr), thread(nullptr), service(NewService()) {
     thread = new HandlerThread;
     moveToThread(thread);
 }

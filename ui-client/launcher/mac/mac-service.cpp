@@ -3,16 +3,17 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
 
+#include "client-layout.h"
 #include "config.h"
 #include "file-op.h"
 #include "log-macros.h"
 #include "platform/launch-services.h"
+#include "qt-text.h"
 
 #define LOG_MODULE "mac/mac-service"
 static const ustring LOG_COMPONENT("service_debug");
@@ -110,14 +111,15 @@ bool MacService::IsNeedUpgrade() {
 }
 
 bool MacService::PerUserBinPathExist() {
-    const ustring client = m_user_app_path + "/" + "Contents/MacOS" + "/" + "lumaris-backup-ui";
+    const ustring client = m_user_app_path + "/" + kClientExecutable;
     return access(client.c_str(), F_OK) == 0;
 }
 
 int MacService::LaunchPerUserBin() {
-    const QString app = QDir::homePath() + QStringLiteral("/.LumarisBackup/Lumaris.app");
+    const ustring path = GetUserLumarisAppInstallPath();
+    const QString app = ToQString(path);
     if (LaunchServices::UnregisterBundle(app) != 0)
-        MSG_ERROR("Cannot unregister bundle, %s", app.toUtf8().constData());
+        MSG_ERROR("Cannot unregister bundle, %s", path.c_str());
     return LaunchServices::OpenBundle(app) ? 0 : -1;
 }
 

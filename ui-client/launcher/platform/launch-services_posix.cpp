@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QString>
 
+#include "client-layout.h"
 #include "launch-services.h"
 
 namespace {
@@ -59,7 +60,7 @@ bool OpenBundle(const QString &bundle) {
     // Not QProcess: what it forks allocates memory before it becomes the client, while another
     // thread may have held the allocator's lock.
     return DetachedStart().Run(
-        QFile::encodeName(bundle + QStringLiteral("/Contents/MacOS/lumaris-backup-ui")));
+        QFile::encodeName(bundle + QLatin1Char('/') + QLatin1String(kClientExecutable)));
 }
 
 }  // namespace LaunchServices

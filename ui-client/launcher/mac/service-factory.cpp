@@ -1,0 +1,7 @@
+#include "service-factory.h"
+
+#include "mac/mac-service.h"
+
+Service *NewService() {
+    return new MacService;
+}
