@@ -1,7 +1,11 @@
 #include "lumaris-service.h"
 
+#include <unistd.h>
+
 #include <array>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <tuple>
 
 #include "client-layout.h"
@@ -11,6 +15,7 @@
 #include "install-paths.h"
 #include "log-macros.h"
 #include "qt-text.h"
+#include "sync-volume.h"
 
 #define LOG_MODULE "lumaris-service"
 static const ustring LOG_COMPONENT("service_debug");
@@ -58,6 +63,29 @@ int BackupApp(const ustring &app, ustring &backup) {
     MSG_ERROR("failed to backup app from '%s' -> '%s' at max retries, exiting\n", app.c_str(),
               backup.c_str());
     return -1;
+}
+
+bool HasClient(const ustring &bundle) {
+    return access((bundle + "/" + kClientExecutable).c_str(), F_OK) == 0;
+}
+
+/// After two failures in a row the bundle under the name can be a partial one, and the last whole
+/// client a backup of the first: that backup takes its place. Nothing happens while the bundle has
+/// its client.
+void RestoreClient(const ustring &app) {
+    if (HasClient(app)) {
+        return;
+    }
+    for (int index = 0; index < kBackupNames; ++index) {
+        const ustring backup = GetAppBackupDir(app, index);
+        if (HasClient(backup)) {
+            MSG_WARNING("no client in '%s', restoring '%s'\n", app.c_str(), backup.c_str());
+            if (FSRemove(app, false) != 0 || FSRename(backup, app, false) != 0) {
+                MSG_ERROR("failed to restore '%s' from '%s'\n", app.c_str(), backup.c_str());
+            }
+            return;
+        }
+    }
 }
 
 /// Puts the old bundle back in place of whatever the extraction left. An empty `backup` means that
@@ -109,12 +137,20 @@ int Service::PrepareUserEnv() {
 
     if (IsFileExist(app, false)) {
         index = BackupApp(app, backup);
-        if (index < 0)
+        if (index < 0) {
+            RestoreClient(app);
             return -1;
+        }
     }
     if (ExtractPackage() != 0) {
         Rollback(app, backup);
+        RestoreClient(app);
         return -1;
+    }
+    // A power failure must not find the backups removed and the new files still in memory.
+    if (SyncVolume(app) != 0) {
+        const int error = errno;
+        MSG_WARNING("failed to write '%s' to disk: %s (%d)\n", app.c_str(), strerror(error), error);
     }
     MSG_INFO("user installation is ready, removing backup app\n");
     for (int used = 0; used <= index; ++used)
