@@ -13,7 +13,7 @@ Launcher::Launcher() : QObject(nullptr), worker(new Worker), dialog(new Processi
 
     // The run ends with LaunchDone, not with the window.
     QApplication::setQuitOnLastWindowClosed(false);
-    dialog->installEventFilter(this);
+    qApp->installEventFilter(this);
 
     Notify_Adapter *relay = &Notify_Adapter::GetInstance();
     connect(this, &Launcher::sigStart, worker, &Worker::HandleServicce);
@@ -33,9 +33,17 @@ Launcher::~Launcher() {
 }
 
 bool Launcher::eventFilter(QObject *watched, QEvent *event) {
+    // The system asks the application to quit, at log-out for instance: the toolkit then closes all
+    // windows, and one that stays visible would hold the system up.
+    if (watched == qApp) {
+        if (event->type() == QEvent::Close || event->type() == QEvent::Quit) {
+            dialog->hide();
+        }
+        return false;
+    }
     const bool escape = event->type() == QEvent::KeyPress &&
                         static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel);
-    if (escape || event->type() == QEvent::Close) {
+    if (watched == dialog && (escape || event->type() == QEvent::Close)) {
         event->ignore();
         return true;
     }

@@ -35,7 +35,8 @@ private Q_SLOTS:
     void ShowMsgBox();
 
 private:
-    /// Keeps the dialog open: it has nothing to cancel.
+    /// Keeps the dialog open whatever the user does to it, as there is nothing to cancel, and hides
+    /// it when the application is asked to quit. The run is finished in either case.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     Worker *worker;                    // owned
