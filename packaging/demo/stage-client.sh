@@ -6,7 +6,7 @@
 #
 # OUT_APP is replaced when it is an earlier bundle; nothing is left half-built.
 set -euo pipefail
-export LC_ALL=C
+export LC_ALL=C QT_SELECT=qt5  # qmake is that of Qt 5, whatever else is installed
 
 readonly MIN_ENTRIES=300
 readonly MIN_BYTES=$((50 * 1000 * 1000))
@@ -61,7 +61,10 @@ stage_framework() {
 
 stage_headers() {
     local folder=$contents/Frameworks/Qt$1.framework
-    install -D -m 644 -t "$folder/Versions/5/Headers" "$headers/Qt$1"/*
+    mkdir -p "$folder/Versions/5/Headers"
+    # Plain files only: private headers, from another package, lie in folders beside them.
+    find "$headers/Qt$1" -maxdepth 1 -type f \
+        -exec install -m 644 -t "$folder/Versions/5/Headers" {} +
     ln -s Versions/Current/Headers "$folder/Headers"
 }
 
