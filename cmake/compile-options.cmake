@@ -20,3 +20,16 @@ if(LUMARIS_SANITIZE)
     # GCC's manual: this warning has false positives in instrumented code (std::regex, for one).
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
+
+# What a program that reads archives can do about its own faults: bounds are checked where the
+# compiler and the library know them, and nothing that is called through tables can be overwritten.
+if(LUMARIS_HARDEN)
+    add_compile_options(-fstack-protector-strong)
+    add_compile_definitions(_FORTIFY_SOURCE=2 _GLIBCXX_ASSERTIONS)
+    include(CheckPIESupported)
+    check_pie_supported(LANGUAGES CXX)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+        add_link_options(LINKER:-z,relro LINKER:-z,now)
+    endif()
+endif()
