@@ -42,7 +42,7 @@ private:
         QDataStream out(&compiled, QIODevice::WriteOnly);
         out.writeRawData("qres", 4);
         out << quint32(1) << header << header + tree + names << header + tree;
-        out << quint32(0) << quint16(2) << quint32(1) << quint32(1);               // the folder
+        out << quint32(0) << quint16(2) << quint32(1) << quint32(1);                // the folder
         out << quint32(0) << quint16(0) << quint16(0) << quint16(1) << quint32(0);  // the file
         out << quint16(1) << quint32('I') << quint16('I');
         out << quint32(content.size());

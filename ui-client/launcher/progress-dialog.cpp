@@ -9,8 +9,8 @@
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
     const QFont font(QStringLiteral("Arial"));
-    const QString icon = ToQString(InstallPaths::LauncherResources()) +
-                         QStringLiteral("/images/ico_72_lumaris.png");
+    const QString icon =
+        ToQString(InstallPaths::LauncherResources()) + QStringLiteral("/images/ico_72_lumaris.png");
 
     setWindowTitle(StrTable::LoadStr(217));
     setWindowIcon(QIcon(icon));

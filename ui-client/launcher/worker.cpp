@@ -37,10 +37,11 @@ void Worker::JoinThread() {
 void Worker::HandleServicce() {
     MSG_DEBUG("running\n");
     service->PreUpgrade();
-    if (service->IsNeedUpgrade())
+    if (service->IsNeedUpgrade()) {
         Upgrade();
-    else
+    } else {
         MSG_DEBUG("no need to upgrade\n");
+    }
     service->RemoveAgedFolders();
     service->PostUpgrade();
     MSG_DEBUG("done\n");
