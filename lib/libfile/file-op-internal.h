@@ -9,13 +9,16 @@ namespace file_op {
 
 /// GetFileInfo: system calls use `stored`, the spelling under which they reach `path`.
 int Describe(const ustring &path, const ustring &stored, FILE_INFO &info);
+/// The same; `length` is that of the real path as the file system stores it.
+int Describe(const ustring &path, const ustring &stored, FILE_INFO &info, unsigned long &length);
 /// FSStat, likewise.
 int Stat(const ustring &path, const ustring &stored, FILE_INFO &info, bool exact);
 
 /// A folder that a walk has described, for the entries listed in it.
 struct Folder {
-    ustring composed;  // its path as the walk builds it, composed (NFC)
-    ustring real;      // its stored path, composed (NFC)
+    ustring composed;             // its path as the walk builds it, composed (NFC)
+    ustring real;                 // its stored path, composed (NFC)
+    unsigned long stored_length;  // of the stored path, which composition may lengthen
 };
 /// Describe for an entry whose name and kind were just listed: says and fails the same, but asks
 /// the system nothing, since the stored path is that of the folder plus the name.

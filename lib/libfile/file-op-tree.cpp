@@ -145,7 +145,8 @@ int MoveFolder(const ustring &src, const ustring &dst, bool exact) {
     }
     for (const Listed &entry : entries) {
         const char *const name = entry.name.c_str();
-        if (MoveEntry(src + "/" + name, dst + "/" + name, exact) != 0) {
+        // The target may have had an entry of this name in another spelling.
+        if (MoveEntry(src + "/" + name, StoredPath(dst + "/" + name), exact) != 0) {
             return -3;
         }
     }
@@ -194,12 +195,12 @@ int RemoveListed(const file_op::Folder &folder, const char *name, const ustring 
     return std::remove(path.c_str()) == 0 || errno == ENOENT ? 0 : -3;
 }
 
-int RemoveContents(const ustring &path, const ustring &real) {
+int RemoveContents(const ustring &path, const ustring &real, unsigned long stored_length) {
     std::vector<Listed> entries;
     if (!ListFolder(path, entries)) {
         return -3;
     }
-    const file_op::Folder folder{path.normalize(ustring::NFC), real};
+    const file_op::Folder folder{path.normalize(ustring::NFC), real, stored_length};
     for (const Listed &entry : entries) {
         const char *const name = entry.name.c_str();
         const ustring child = path + "/" + name;
@@ -213,13 +214,14 @@ int RemoveContents(const ustring &path, const ustring &real) {
 
 int RemoveEntry(const ustring &path) {
     FILE_INFO info;
-    if (file_op::Describe(path, path, info) != 0) {
+    unsigned long stored_length = 0;
+    if (file_op::Describe(path, path, info, stored_length) != 0) {
         return -1;
     }
     if (!info.exists) {
         return 0;
     }
-    if (info.type == FILE_TYPE_DIRECTORY && RemoveContents(path, info.path) != 0) {
+    if (info.type == FILE_TYPE_DIRECTORY && RemoveContents(path, info.path, stored_length) != 0) {
         return -3;
     }
     return std::remove(path.c_str()) == 0 ? 0 : -3;

@@ -62,7 +62,8 @@ void FillFromStat(const ustring &path, const struct stat &st, FILE_INFO &info) {
 }
 
 /// Replaces the path of a described entry by the one under which the file system stores it.
-int FillRealPath(const ustring &path, const ustring &stored, FILE_INFO &info) {
+int FillRealPath(const ustring &path, const ustring &stored, FILE_INFO &info,
+                 unsigned long &length) {
     const ustring composed = path.normalize(ustring::NFC);
     MSG_DEBUG("Input file path = [%s].\n", composed.c_str());
     // A path that is no valid UTF-8 has no composed form; the look-up fails for the empty one.
@@ -80,6 +81,7 @@ int FillRealPath(const ustring &path, const ustring &stored, FILE_INFO &info) {
         MSG_ERROR("FSPathMakeRef: %d\n", static_cast<int>(status));
         return -1;
     }
+    length = std::strlen(reinterpret_cast<const char *>(buffer));
     const ustring real = ustring(reinterpret_cast<const char *>(buffer)).normalize(ustring::NFC);
     MSG_DEBUG("FSRefMakePath outTargetPath path = [%s].\n", real.c_str());
     info.path = real;
@@ -118,21 +120,28 @@ bool _FILE_INFO_tag::operator==(const _FILE_INFO_tag &other) const {
 }
 
 int file_op::Describe(const ustring &path, const ustring &stored, FILE_INFO &info) {
+    unsigned long length = 0;
+    return Describe(path, stored, info, length);
+}
+
+int file_op::Describe(const ustring &path, const ustring &stored, FILE_INFO &info,
+                      unsigned long &length) {
     struct stat st;
     if (lstat(stored.c_str(), &st) != 0) {
         if (errno != ENOENT) {
             return -1;
         }
-        info = FILE_INFO();
-        info.path = path;
-        info.name = FSBaseName(path);
+        FILE_INFO missing;  // `path` may be the record's own
+        missing.path = path;
+        missing.name = FSBaseName(path);
+        info = missing;
         return 0;
     }
     FillFromStat(path, st, info);
     if (info.type == FILE_TYPE_NONE) {
         return -1;
     }
-    return FillRealPath(path, stored, info);
+    return FillRealPath(path, stored, info, length);
 }
 
 int file_op::DescribeListed(const Folder &folder, const char *name) {
@@ -143,7 +152,7 @@ int file_op::DescribeListed(const Folder &folder, const char *name) {
         return -1;
     }
     MSG_DEBUG("Input file path = [%s/%s].\n", folder.composed.c_str(), composed_name.c_str());
-    if (folder.real.length() + 1 + composed_name.length() >= kPathBuffer) {
+    if (folder.stored_length + 1 + std::strlen(name) >= kPathBuffer) {
         MSG_ERROR("FSPathMakeRef: %d\n", static_cast<int>(pathTooLongErr));
         return -1;
     }

@@ -53,6 +53,8 @@ TEST_F(FileOpTest, RealPathDecides) {
     EXPECT_TRUE(GetFileInfo("bad\xFF", info) == -1 && Logged("FSPathMakeRef: -43\n"));
     EXPECT_EQ(GetFileInfo("no/such", info), 0);
     EXPECT_TRUE(!info.exists && info.type == 0 && info.path + info.name == "no/suchsuch");
+    EXPECT_EQ(GetFileInfo(info.path, info), 0);  // the record's own path
+    EXPECT_EQ(info.path, "no/such");
     EXPECT_EQ(FSStat("", info, false), -1);
     EXPECT_TRUE(FSStat("link/\u00E9t\u00E9", info, false) == 0 && info.exists);
     EXPECT_TRUE(FSStat("link/\u00E9t\u00E9", info, true) == 0 && !info.exists);
@@ -70,6 +72,20 @@ TEST_F(FileOpTest, DeepFolders) {
     EXPECT_EQ(FSRemove("deep", false), 0);
     setrlimit(RLIMIT_NOFILE, &files);
     EXPECT_FALSE(fs::exists("deep"));
+}
+
+/// Composition turns each letter into two: what counts is what the file system stores.
+TEST_F(FileOpTest, LongStoredPath) {
+    fs::current_path(m_work);
+    for (unsigned long length = Full("").length(); length < 2300; length += 61) {
+        const std::string level = "\u0958\u0958\u0958\u0958\u0958\u0958\u0958\u0958\u0958\u0958";
+        fs::create_directory(level + level);
+        fs::current_path(level + level);
+    }
+    WriteFile("file", "");
+    fs::current_path(m_work);
+    for (const auto &entry : fs::directory_iterator("."))
+        EXPECT_EQ(FSRemove(entry.path().c_str(), false), 0) << Log().substr(Log().size() - 300);
 }
 
 TEST_F(FileOpTest, CopyMovesContentOnly) {
@@ -129,6 +145,11 @@ TEST_F(FileOpTest, RenameAcrossVolumes) {
     EXPECT_EQ(FSRename(Full("\u00FC"), other + "/dst", true), 0);
     EXPECT_EQ(ReadFile(m_other / "dst/sub/e\u0301") + ReadFile(m_other / "dst/two"), "onetwo");
     EXPECT_FALSE(fs::exists("u\u0308"));
+
+    WriteFile("onto/\u00E9/f", "four");  // "dst/sub" has the same name, spelt otherwise
+    WriteFile(m_other / "onto/e\u0301/f", "old");
+    EXPECT_EQ(FSRename("onto", other + "/onto", false), 0);
+    EXPECT_EQ(ReadFile(m_other / "onto/e\u0301/f"), "four");
 
     WriteFile("src/file", "three");
     fs::create_symlink("file", "src/link");
