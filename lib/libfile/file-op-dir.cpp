@@ -1,13 +1,8 @@
 #include <cerrno>
 #include <cstring>
+#include <memory>
 
-#include "file-op.h"
-#include "stored-path.h"
-
-#define LOG_MODULE "file-op"
-#include "log-macros.h"
-
-static const ustring LOG_COMPONENT("file_op_debug");
+#include "file-op-internal.h"
 
 namespace {
 
@@ -31,21 +26,43 @@ int TypeOfEntry(unsigned char type) {
     }
 }
 
+struct CloseFolder {
+    void operator()(DIR_HANDLE *handle) const { FSCloseDir(*handle); }
+};
+
 }  // namespace
 
-int FSOpenDir(const ustring &path, int flags, DIR_HANDLE &handle) {
-    const ustring stored = StoredPath(path);
-    DIR *const dir = opendir(stored.c_str());
+int file_op::OpenFolder(const Place &place, int flags, DIR_HANDLE &handle) {
+    DIR *const dir = opendir(place.system.c_str());
     if (dir == nullptr) {
         const int error = errno;
-        MSG_ERROR("FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(),
+        MSG_ERROR("FSOpenDir: Failed to open directory '%s'. %s\n", place.asked.c_str(),
                   std::strerror(error));
         return -1;
     }
     handle.dir = dir;
-    handle.path = path;
+    handle.path = place.asked;
     handle.flags = flags;
     return 0;
+}
+
+int file_op::ListFolder(const Place &place, std::vector<DIR_ENTRY> &entries) {
+    DIR_HANDLE handle;
+    if (OpenFolder(place, 0, handle) != 0) {
+        return -1;
+    }
+    const std::unique_ptr<DIR_HANDLE, CloseFolder> closed_at_end(&handle);
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) == 1) {
+        if (entry.name != "." && entry.name != "..") {
+            entries.push_back(entry);
+        }
+    }
+    return 0;
+}
+
+int FSOpenDir(const ustring &path, int flags, DIR_HANDLE &handle) {
+    return file_op::OpenFolder(file_op::Place::Respelled(path), flags, handle);
 }
 
 int FSReadDir(DIR_HANDLE &handle, DIR_ENTRY &entry) {

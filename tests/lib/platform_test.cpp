@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "core-services.h"
-#include "stored-path.h"
+#include "real-path.h"
+#include "system-path.h"
 
 namespace fs = std::filesystem;
 
@@ -30,9 +30,8 @@ protected:
     fs::path m_root;
 };
 
-TEST_F(PlatformTest, StoredPathRespellsWhatExists) {
+TEST_F(PlatformTest, SystemPathRespellsWhatExists) {
     const char *const cases[][2] = {
-        {"plain", "plain"},
         {"d\u00E9//\u00FC.txt", "de\u0301//u\u0308.txt"},
         {"de\u0301/\u00FC.txt/", "de\u0301/u\u0308.txt/"},
         {"d\u00E9/n\u00E9w/\u00FC", "de\u0301/n\u00E9w/\u00FC"},  // the rest as asked for
@@ -42,39 +41,27 @@ TEST_F(PlatformTest, StoredPathRespellsWhatExists) {
         {"d\u00E9/\xFF", "de\u0301/\xFF"},
     };
     for (const auto &[asked, stored] : cases)
-        EXPECT_EQ(StoredPath(Path(asked)), Path(stored)) << asked;
+        EXPECT_EQ(SystemPath(Path(asked)), Path(stored)) << asked;
     fs::current_path(m_root);
-    EXPECT_EQ(StoredPath("d\u00E9"), "de\u0301");
+    EXPECT_EQ(SystemPath("d\u00E9"), "de\u0301");
 }
 
-TEST_F(PlatformTest, RefFindsTheStoredForm) {
+TEST_F(PlatformTest, RealPath) {
     const struct {
         ustring asked;
-        OptionBits options;
-        OSStatus status;
-        const char *stored;
-    } cases[] = {{Path("./de\u0301/..//plain"), 0, noErr, "plain"},
-                 {Path("d\u00E9/"), kFSPathMakeRefDoNotFollowLeafSymlink, noErr, "de\u0301"},
-                 {Path("link"), kFSPathMakeRefDoNotFollowLeafSymlink, noErr, "link"},
-                 {Path("link"), kFSPathMakeRefDefaultOptions, noErr, "plain"},
-                 {Path("gone (deleted)"), 0, noErr, "gone (deleted)"},
-                 {Path("missing"), 0, -43, ""},
-                 {Path("plain/x"), 0, -120, ""},
-                 {Path(std::string(256, 'n')), 0, -37, ""},
-                 {std::string(4096, '/'), 0, -2110, ""}};
+        Leaf leaf;
+        int status;
+        ustring real;
+    } cases[] = {{Path("./de\u0301/..//plain"), Leaf::kTarget, 0, Path("plain")},
+                 {Path("de\u0301/"), Leaf::kItself, 0, Path("de\u0301")},
+                 {Path("link"), Leaf::kItself, 0, Path("link")},
+                 {Path("link"), Leaf::kTarget, 0, Path("plain")},
+                 {Path("gone (deleted)"), Leaf::kItself, 0, Path("gone (deleted)")},
+                 {Path("missing"), Leaf::kItself, -43, ""},
+                 {std::string(4096, '/'), Leaf::kItself, -2110, ""}};
     for (const auto &c : cases) {
-        FSRef ref;
-        Boolean folder = 2;
-        const UInt8 *const asked = reinterpret_cast<const UInt8 *>(c.asked.c_str());
-        ASSERT_EQ(FSPathMakeRefWithOptions(asked, c.options, &ref, &folder), c.status) << c.asked;
-        if (c.status != noErr)
-            continue;
-        const ustring stored = Path(c.stored);
-        EXPECT_EQ(folder, stored == Path("de\u0301"));
-        UInt8 buffer[4096] = "......";  // a path is never cut
-        EXPECT_EQ(FSRefMakePath(&ref, buffer, static_cast<UInt32>(stored.length())), -2110);
-        EXPECT_STREQ(reinterpret_cast<char *>(buffer), "......");
-        EXPECT_EQ(FSRefMakePath(&ref, buffer, static_cast<UInt32>(stored.length() + 1)), noErr);
-        EXPECT_EQ(stored, reinterpret_cast<const char *>(buffer)) << c.asked;
+        ustring real("before");
+        EXPECT_EQ(RealPath(c.asked, c.leaf, real), c.status) << c.asked;
+        EXPECT_EQ(real, c.real) << c.asked;
     }
 }
