@@ -12,9 +12,8 @@ namespace {
 
 bool VolumeType(const char *caller, const ustring &path, ustring &type) {
     if (FileSystemType(SystemPath(path), type) != 0) {
-        const int error = errno;
         MSG_ERROR("%s: Failed to get file system info '%s'. %s\n", caller, path.c_str(),
-                  std::strerror(error));
+                  std::strerror(errno));
         return false;
     }
     return true;
@@ -67,9 +66,8 @@ bool IsMSDOS(const ustring &path) {
 
 int FSChown(const ustring &path, unsigned int uid, unsigned int gid) {
     if (lchown(SystemPath(path).c_str(), uid, gid) != 0) {
-        const int error = errno;
-        MSG_ERROR("FSChown: Failed to chown '%s' (code: %d, msg: %s)\n", path.c_str(), error,
-                  std::strerror(error));
+        MSG_ERROR("FSChown: Failed to chown '%s' (code: %d, msg: %s)\n", path.c_str(), errno,
+                  std::strerror(errno));
         return -1;
     }
     return 0;

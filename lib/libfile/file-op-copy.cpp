@@ -24,9 +24,8 @@ public:
         : m_fd(open(place.system.c_str(), flags | O_CLOEXEC, 0666)),
           m_written((flags & O_ACCMODE) != O_RDONLY) {
         if (m_fd < 0) {
-            const int error = errno;
-            MSG_ERROR("CopyFile: open(%s): %s (%d)\n", place.asked.c_str(), std::strerror(error),
-                      error);
+            MSG_ERROR("CopyFile: open(%s): %s (%d)\n", place.asked.c_str(), std::strerror(errno),
+                      errno);
         }
     }
     ~File() { Close(); }
@@ -71,8 +70,7 @@ int CopyContent(int src, int dst, char *buffer) {
             return 0;
         }
         if (size < 0) {
-            const int error = errno;
-            MSG_ERROR("CopyFile: read: %s (%d)\n", std::strerror(error), error);
+            MSG_ERROR("CopyFile: read: %s (%d)\n", std::strerror(errno), errno);
             return -1;
         }
         const int result = WriteBlock(dst, buffer, static_cast<unsigned long>(size));
@@ -95,9 +93,8 @@ int file_op::CopyFile(const Place &src, const Place &dst, bool remove_source) {
     }
     const std::unique_ptr<char, FreeMemory> buffer(static_cast<char *>(std::malloc(kCopyBlock)));
     if (!buffer) {
-        const int error = errno;
         MSG_ERROR("FSCopy: malloc(%d): %s (%d)\n", static_cast<int>(kCopyBlock),
-                  std::strerror(error), error);
+                  std::strerror(errno), errno);
         return -1;
     }
     const int result = CopyContent(in.fd(), out.fd(), buffer.get());

@@ -12,26 +12,6 @@ namespace {
 
 constexpr unsigned int kLinkBuffer = 1024;
 
-int TypeOfMode(mode_t mode) {
-    switch (mode & S_IFMT) {
-        case S_IFREG:
-            return FILE_TYPE_REGULAR;
-        case S_IFDIR:
-            return FILE_TYPE_DIRECTORY;
-        case S_IFLNK:
-            return FILE_TYPE_SYMLINK;
-        case S_IFCHR:
-        case S_IFBLK:
-            return FILE_TYPE_DEVICE;
-        case S_IFIFO:
-            return FILE_TYPE_FIFO;
-        case S_IFSOCK:
-            return FILE_TYPE_SOCKET;
-        default:
-            return FILE_TYPE_NONE;
-    }
-}
-
 void FillNames(const ustring &path, FILE_INFO &info) {
     info.path = path;
     info.name = FSBaseName(path);
@@ -46,7 +26,7 @@ void FillFromStat(const struct stat &st, FILE_INFO &info) {
     info.gid = st.st_gid;
     info.mode = st.st_mode;
     info.dev = static_cast<long long>(st.st_dev);
-    info.type = TypeOfMode(st.st_mode);
+    info.type = file_op::TypeOfMode(st.st_mode);
 }
 
 /// Writes what a look-up of the real path writes. Both paths are composed.
@@ -83,6 +63,26 @@ file_op::Place file_op::Place::Respelled(const ustring &path) {
 
 file_op::Place file_op::Place::Child(const ustring &name) const {
     return {asked + "/" + name, system + "/" + name};
+}
+
+int file_op::TypeOfMode(mode_t mode) {
+    switch (mode & S_IFMT) {
+        case S_IFREG:
+            return FILE_TYPE_REGULAR;
+        case S_IFDIR:
+            return FILE_TYPE_DIRECTORY;
+        case S_IFLNK:
+            return FILE_TYPE_SYMLINK;
+        case S_IFCHR:
+        case S_IFBLK:
+            return FILE_TYPE_DEVICE;
+        case S_IFIFO:
+            return FILE_TYPE_FIFO;
+        case S_IFSOCK:
+            return FILE_TYPE_SOCKET;
+        default:
+            return FILE_TYPE_NONE;
+    }
 }
 
 int file_op::Describe(Place &place, FILE_INFO &info, ustring &stored) {

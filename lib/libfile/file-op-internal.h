@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <vector>
 
 #include "file-op.h"
@@ -26,6 +28,9 @@ struct Place {
     /// An entry that the folder lists under this name.
     Place Child(const ustring &name) const;
 };
+
+/// The FILE_TYPE_... of a mode word, NONE for kinds that have no number.
+int TypeOfMode(mode_t mode);
 
 /// GetFileInfo; respells the place. `stored` becomes the real path before it is composed.
 int Describe(Place &place, FILE_INFO &info, ustring &stored);

@@ -37,12 +37,12 @@ int MakeLevel(const Place &level, bool last, bool replace_files, mode_t mode) {
     if (exists && S_ISDIR(st.st_mode)) {
         return 0;
     }
+    if (exists && !replace_files && last) {
+        MSG_INFO("FSMKDirP: path: %s is existing file or symbolic link pointed to file\n",
+                 level.asked.c_str());
+        return EEXIST;
+    }
     if (exists && !replace_files) {
-        if (last) {
-            MSG_INFO("FSMKDirP: path: %s is existing file or symbolic link pointed to file\n",
-                     level.asked.c_str());
-            return EEXIST;
-        }
         // The next level then fails beneath it.
         MSG_INFO("FSMKDirP: path: %s is symbolic link pointed to folder\n", level.asked.c_str());
         return 0;
@@ -90,10 +90,7 @@ int file_op::MakeFolder(Place &place, bool recursive) {
                   place.asked.c_str(), info.type);
         return -1;
     }
-    if (info.exists) {
-        return 0;
-    }
-    int error = mkdir(place.system.c_str(), 0777) == 0 ? 0 : errno;
+    int error = info.exists || mkdir(place.system.c_str(), 0777) == 0 ? 0 : errno;
     // Only a missing parent needs the walk; one for each folder of a deep tree would add up.
     if (error != 0 && recursive) {
         unsigned long end = 0;
@@ -174,11 +171,10 @@ int FSCreateTempPath(const ustring &dir, ustring &out) {
 
 int FSCreateSymbolicLink(const ustring &target, const ustring &link) {
     if (symlink(target.c_str(), SystemPath(link).c_str()) != 0) {
-        const int error = errno;
         MSG_ERROR(
             "FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: %d, msg: "
             "%s)\n",
-            target.c_str(), link.c_str(), error, std::strerror(error));
+            target.c_str(), link.c_str(), errno, std::strerror(errno));
         return -1;
     }
     return 0;
