@@ -7,7 +7,6 @@
 #include <fcntl.h>
 #include <fuse3/fuse.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <unicode/unistr.h>
 #include <unicode/unorm.h>
 #include <unistd.h>
@@ -15,6 +14,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 namespace {
@@ -50,23 +50,15 @@ int Result(long result) {
     return result < 0 ? -errno : static_cast<int>(result);
 }
 
+/// A system call as a file operation: the first takes what follows the path, the second the same
+/// but for an open file that is not looked at.
 template <auto call, typename... Arguments>
 int Forward(const char *path, Arguments... arguments) {
     return Result(call(Find(path).c_str(), arguments...));
 }
-
-void *Start(fuse_conn_info *, fuse_config *config) {
-    config->use_ino = 1;
-    config->entry_timeout = config->attr_timeout = config->negative_timeout = 0;
-    std::putchar('.');
-    std::fflush(stdout);
-    return nullptr;
-}
-
-int Open(const char *path, fuse_file_info *file) {
-    const int fd = open(Find(path).c_str(), file->flags & ~O_NOFOLLOW);
-    file->fh = static_cast<uint64_t>(fd);
-    return fd < 0 ? -errno : 0;
+template <auto call, typename Argument>
+int ForwardOpen(const char *path, Argument argument, fuse_file_info *) {
+    return Result(call(Find(path).c_str(), argument));
 }
 
 int Create(const char *path, mode_t mode, fuse_file_info *file) {
@@ -80,14 +72,18 @@ int List(const char *path, void *buffer, fuse_fill_dir_t fill, off_t, fuse_file_
     DIR *const dir = opendir(Find(path).c_str());
     if (dir == nullptr)
         return -errno;
-    while (const dirent *entry = readdir(dir)) {
-        struct stat st = {};
-        st.st_ino = entry->d_ino;
-        st.st_mode = DTTOIF(entry->d_type);
-        fill(buffer, entry->d_name, &st, 0, fuse_fill_dir_flags(0));
-    }
-    closedir(dir);
-    return 0;
+    while (const dirent *entry = readdir(dir))
+        fill(buffer, entry->d_name, nullptr, 0, fuse_fill_dir_flags(0));
+    return closedir(dir);
+}
+
+int SetTimes(const char *path, const timespec times[2], fuse_file_info *) {
+    return Result(utimensat(AT_FDCWD, Find(path).c_str(), times, AT_SYMLINK_NOFOLLOW));
+}
+
+int ReadLink(const char *path, char *text, size_t size) {
+    std::memset(text, 0, size);
+    return std::min(Forward<readlink>(path, text, size - 1), 0);
 }
 
 int Fd(const fuse_file_info *file) {
@@ -96,44 +92,30 @@ int Fd(const fuse_file_info *file) {
 
 fuse_operations Operations() {
     fuse_operations table = {};
-    table.init = Start;
-    table.readdir = List;
-    table.open = Open;
-    table.create = Create;
+    table.init = [](fuse_conn_info *, fuse_config *config) -> void * {
+        // Nothing is remembered: names change on disk under the kernel's feet.
+        config->entry_timeout = config->attr_timeout = config->negative_timeout = 0;
+        std::putchar('.');
+        std::fflush(stdout);
+        return nullptr;
+    };
+    table.getattr = ForwardOpen<lstat, struct stat *>;
+    table.chmod = ForwardOpen<chmod, mode_t>;
+    table.truncate = ForwardOpen<truncate, off_t>;
+    table.utimens = SetTimes;
     table.mkdir = Forward<mkdir, mode_t>;
     table.unlink = Forward<unlink>;
     table.rmdir = Forward<rmdir>;
-    table.statfs = Forward<statvfs, struct statvfs *>;
-    table.access = Forward<access, int>;
-    table.getattr = [](const char *path, struct stat *st, fuse_file_info *) {
-        return Result(lstat(Find(path).c_str(), st));
-    };
-    table.readlink = [](const char *path, char *text, size_t size) {
-        const ssize_t length = readlink(Find(path).c_str(), text, size - 1);
-        text[length < 0 ? 0 : length] = '\0';
-        return length < 0 ? -errno : 0;
-    };
+    table.readlink = ReadLink;
     table.symlink = [](const char *target, const char *link) {
         return Result(symlink(target, Find(link).c_str()));
-    };
-    table.link = [](const char *from, const char *to) {
-        return Result(link(Find(from).c_str(), Find(to).c_str()));
     };
     table.rename = [](const char *from, const char *to, unsigned int) {
         return Result(rename(Find(from).c_str(), Find(to).c_str()));
     };
-    table.chmod = [](const char *path, mode_t mode, fuse_file_info *) {
-        return Result(chmod(Find(path).c_str(), mode));
-    };
-    table.chown = [](const char *path, uid_t user, gid_t group, fuse_file_info *) {
-        return Result(lchown(Find(path).c_str(), user, group));
-    };
-    table.truncate = [](const char *path, off_t size, fuse_file_info *) {
-        return Result(truncate(Find(path).c_str(), size));
-    };
-    table.utimens = [](const char *path, const timespec times[2], fuse_file_info *) {
-        return Result(utimensat(AT_FDCWD, Find(path).c_str(), times, AT_SYMLINK_NOFOLLOW));
-    };
+    table.readdir = List;
+    table.create = Create;
+    table.open = [](const char *path, fuse_file_info *file) { return Create(path, 0, file); };
     table.read = [](const char *, char *data, size_t size, off_t at, fuse_file_info *file) {
         return Result(pread(Fd(file), data, size, at));
     };
