@@ -103,14 +103,15 @@ TEST_F(FileOpTest, CopyMovesContentOnly) {
         text[i] = static_cast<char>(i / 1000);
     WriteFile("src", text);
     WriteFile("dst", text + "longer");
+    WriteFile("e\u0301/f", "");
     fs::permissions("dst", fs::perms(0600));
     ASSERT_EQ(FSCopy("src", "dst", true), 0);
     EXPECT_FALSE(fs::exists("src"));
     EXPECT_EQ(Mode("dst"), 0600);
-    for (const auto &[src, dst] : {std::pair("none", "dst"), {"dst", "no/dst"}, {".", "new"}})
+    for (const auto &[src, dst] : {std::pair("none", "dst"), {"dst", "\u00E9/f/x"}, {".", "new"}})
         EXPECT_EQ(FSCopy(src, dst, true), -1) << src;
     EXPECT_TRUE(ReadFile("dst") == text);  // no failure touched it
-    EXPECT_TRUE(Logged("CopyFile: open(no/dst): No such file or directory (2)\n"));
+    EXPECT_TRUE(Logged("CopyFile: open(\u00E9/f/x): Not a directory (20)\n"));
 }
 
 TEST_F(FileOpTest, RenameCodes) {
@@ -192,9 +193,11 @@ TEST_F(FileOpTest, ListFolder) {
     DIR_ENTRY entry;
     std::map<ustring, long long> found;  // ten times the type, and the size
     ASSERT_EQ(FSOpenDir(Full("\u00E9"), DIR_FLAG_STAT, handle), 0);
-    while (FSReadDir(handle, entry) == 1)
+    EXPECT_EQ(handle.path, Full("\u00E9"));
+    for (errno = EIO; FSReadDir(handle, entry) == 1; errno = EIO)
         found[entry.name] = 10 * entry.type + (entry.type == 2 ? 0 : entry.size);
     EXPECT_EQ(found, (decltype(found){{".", 20}, {"..", 20}, {"file", 15}, {"link", 34}}));
+    EXPECT_EQ(FSReadDir(handle, entry), 0);
     close(dirfd(handle.dir));
     EXPECT_EQ(FSReadDir(handle, entry), -1);
     FSCloseDir(handle);

@@ -44,14 +44,15 @@ TEST_F(VolumeTest, RenameToAnotherVolume) {
     EXPECT_EQ(ReadFile(m_volume / "dst/.hidden"), "two");
     EXPECT_FALSE(fs::exists(m_folder / "u\u0308"));
 
-    WriteFile(m_folder / "onto/\u00E9/f", "new");
-    WriteFile(m_volume / "onto/e\u0301/f", "old");  // the same folder, spelt otherwise
+    WriteFile(m_folder / "onto/\u00E9/\u00FC", "new");
+    WriteFile(m_volume / "onto/e\u0301/u\u0308", "old");  // the same file, spelt otherwise
     EXPECT_EQ(FSRename(OnDisk("onto"), OnVolume("onto"), false), 0);
-    EXPECT_EQ(ReadFile(m_volume / "onto/e\u0301/f"), "new");
+    EXPECT_EQ(ReadFile(m_volume / "onto/e\u0301/u\u0308"), "new");
 
     WriteFile(m_folder / "src/file", "three");
     fs::create_symlink("file", m_folder / "src/link");
-    EXPECT_EQ(FSRename(OnDisk("src"), OnVolume("moved"), false), -3);  // the link does not travel
+    EXPECT_EQ(FSRename(OnDisk("src/link"), OnVolume("link"), false), 0);  // it does not travel
+    EXPECT_EQ(FSRename(OnDisk("src"), OnVolume("moved"), false), -3);
     EXPECT_EQ(ReadFile(m_volume / "moved/file"), "three");
     EXPECT_TRUE(fs::is_symlink(m_folder / "src/link"));
     EXPECT_FALSE(fs::exists(m_folder / "src/file"));
