@@ -98,7 +98,7 @@ TEST_F(FileOpTest, DeepFolders) {
 }
 
 TEST_F(FileOpTest, CopyMovesContentOnly) {
-    std::string text(33 * 1024 * 1024, 'x');  // more than one block
+    std::string text(33UL * 1024 * 1024, 'x');  // more than one block
     for (size_t i = 0; i < text.size(); i += 1000)
         text[i] = static_cast<char>(i / 1000);
     WriteFile("src", text);
@@ -195,7 +195,7 @@ TEST_F(FileOpTest, ListFolder) {
     ASSERT_EQ(FSOpenDir(Full("\u00E9"), DIR_FLAG_STAT, handle), 0);
     EXPECT_EQ(handle.path, Full("\u00E9"));
     for (errno = EIO; FSReadDir(handle, entry) == 1; errno = EIO)
-        found[entry.name] = 10 * entry.type + (entry.type == 2 ? 0 : entry.size);
+        found[entry.name] = 10LL * entry.type + (entry.type == 2 ? 0 : entry.size);
     EXPECT_EQ(found, (decltype(found){{".", 20}, {"..", 20}, {"file", 15}, {"link", 34}}));
     EXPECT_EQ(FSReadDir(handle, entry), 0);
     close(dirfd(handle.dir));

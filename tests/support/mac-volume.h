@@ -32,8 +32,10 @@ public:
     }
     ~MacVolume() {
         umount2(m_mount_point.c_str(), MNT_DETACH);
-        if (m_server > 0)
+        if (m_server > 0) {
+            kill(m_server, SIGKILL);  // it would wait for files that are still open
             waitpid(m_server, nullptr, 0);
+        }
     }
     /// False where a user may not mount, or without FUSE.
     bool mounted() const { return m_mounted; }
