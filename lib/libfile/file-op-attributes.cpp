@@ -19,13 +19,9 @@ bool VolumeType(const char *caller, const ustring &path, ustring &type) {
     return true;
 }
 
-/// access() as an errno code, 0 when it is granted.
-int AccessError(const ustring &path, int mode) {
-    return access(SystemPath(path).c_str(), mode) == 0 ? 0 : errno;
-}
-
-bool IsDenied(int error) {
-    return error == EACCES || error == EPERM;
+/// Whether access() fails for want of permission, and not because the entry is missing.
+bool IsDenied(const ustring &path, int mode) {
+    return access(SystemPath(path).c_str(), mode) != 0 && (errno == EACCES || errno == EPERM);
 }
 
 }  // namespace
@@ -42,11 +38,11 @@ bool FSTimeEqual(long a, long b) {
 }
 
 bool isFileLocked(const ustring &path, int mode) {
-    return IsDenied(AccessError(path, mode));
+    return IsDenied(path, mode);
 }
 
 bool hasFilePermission(const ustring &path, int mode) {
-    return !IsDenied(AccessError(path, mode));
+    return !IsDenied(path, mode);
 }
 
 bool isMountPoint(const ustring &path) {

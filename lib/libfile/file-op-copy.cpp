@@ -28,23 +28,21 @@ public:
                       errno);
         }
     }
-    ~File() { Close(); }
+    ~File() {
+        if (m_fd >= 0 && m_written) {
+            fsync(m_fd);
+        }
+        if (m_fd >= 0) {
+            close(m_fd);
+        }
+    }
     File(const File &) = delete;
     File &operator=(const File &) = delete;
 
-    void Close() {
-        if (m_fd >= 0) {
-            if (m_written) {
-                fsync(m_fd);
-            }
-            close(m_fd);
-        }
-        m_fd = -1;
-    }
     int fd() const { return m_fd; }
 
 private:
-    int m_fd;
+    const int m_fd;
     const bool m_written;
 };
 
@@ -63,7 +61,7 @@ int WriteBlock(int fd, const char *data, unsigned long size) {
     return 0;
 }
 
-int CopyContent(int src, int dst, char *buffer) {
+int CopyBlocks(int src, int dst, char *buffer) {
     for (;;) {
         const ssize_t size = read(src, buffer, kCopyBlock);
         if (size == 0) {
@@ -80,10 +78,8 @@ int CopyContent(int src, int dst, char *buffer) {
     }
 }
 
-}  // namespace
-
-int file_op::CopyFile(const Place &src, const Place &dst, bool remove_source) {
-    File in(src, O_RDONLY);
+int CopyContent(const file_op::Place &src, const file_op::Place &dst) {
+    const File in(src, O_RDONLY);
     if (in.fd() < 0) {
         return -1;
     }
@@ -97,9 +93,14 @@ int file_op::CopyFile(const Place &src, const Place &dst, bool remove_source) {
                   std::strerror(errno), errno);
         return -1;
     }
-    const int result = CopyContent(in.fd(), out.fd(), buffer.get());
+    return CopyBlocks(in.fd(), out.fd(), buffer.get());
+}
+
+}  // namespace
+
+int file_op::CopyFile(const Place &src, const Place &dst, bool remove_source) {
+    const int result = CopyContent(src, dst);
     if (result == 0 && remove_source) {
-        in.Close();
         return std::remove(src.system.c_str()) == 0 ? 0 : -1;
     }
     return result;

@@ -40,16 +40,6 @@ int ReportRealPath(const ustring &asked, int status, const ustring &real) {
     return 0;
 }
 
-/// `composed` is the path asked for. With `exact` it must also be the real one.
-bool Exists(const ustring &composed, bool exact) {
-    if (composed.empty()) {
-        return false;
-    }
-    file_op::Place place(composed);
-    FILE_INFO info;
-    return file_op::Describe(place, info) == 0 && info.exists && (!exact || info.path == composed);
-}
-
 }  // namespace
 
 bool _FILE_INFO_tag::operator==(const _FILE_INFO_tag &other) const {
@@ -132,7 +122,7 @@ int file_op::Stat(Place &place, FILE_INFO &info, bool exact) {
     if (place.asked.empty()) {
         return -1;
     }
-    if (!Exists(place.asked.normalize(ustring::NFC), exact)) {
+    if (!IsFileExist(place.asked, exact)) {
         info.exists = false;
         return 0;
     }
@@ -145,7 +135,10 @@ int GetFileInfo(const ustring &path, FILE_INFO &info) {
 }
 
 bool IsFileExist(const ustring &path, bool exact) {
-    return Exists(path.normalize(ustring::NFC), exact);
+    file_op::Place place(path.normalize(ustring::NFC));
+    FILE_INFO info;
+    return !place.asked.empty() && file_op::Describe(place, info) == 0 && info.exists &&
+           (!exact || info.path == place.asked);
 }
 
 int FSStat(const ustring &path, FILE_INFO &info, bool exact) {

@@ -14,12 +14,12 @@ inline const ustring LOG_COMPONENT("file_op_debug");
 
 namespace file_op {
 
-/// A path in two spellings: as it was asked for, which messages name, and for system calls.
+/// A path in two spellings: the one asked for, which messages name, and the one for system calls.
 struct Place {
     ustring asked;
     ustring system;
 
-    /// Nothing is respelled yet: Describe does it, and Respelled for those who need no description.
+    /// Not respelled yet. Describe does that on the way; who describes nothing calls Respelled.
     explicit Place(const ustring &path) : asked(path), system(path) {}
     Place(const ustring &asked_path, const ustring &system_path)
         : asked(asked_path), system(system_path) {}
@@ -41,8 +41,8 @@ int Stat(Place &place, FILE_INFO &info, bool exact);
 /// A folder that a walk has described.
 struct Folder {
     ustring asked;   // composed (NFC)
-    ustring real;    // its real path, composed (NFC)
-    ustring stored;  // its real path before that
+    ustring real;    // the real path, composed (NFC)
+    ustring stored;  // the real path as the file system stores it
 };
 /// Describe for an entry other than a folder that was just listed: writes the same messages and
 /// fails in the same cases, but asks the system nothing, since the real path of the entry is that

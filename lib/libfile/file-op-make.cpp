@@ -53,13 +53,13 @@ int MakeLevel(const Place &level, bool last, bool replace_files, mode_t mode) {
     return mkdir(level.system.c_str(), mode) == 0 ? 0 : errno;
 }
 
-/// Where the level ends that begins at `begin`.
+/// The end of the level of `path` that begins at `begin`.
 unsigned long LevelEnd(const ustring &path, unsigned long begin) {
     return begin + std::strcspn(path.c_str() + begin, "/");
 }
 
-/// Makes all levels of `path`; `end` is where in the path asked for the last level looked at ends.
-/// Both spellings have the same levels. Returns 0 or an errno code.
+/// Makes all levels of `path`. Both spellings have the same levels, so they are walked together;
+/// `end` is where the walk stopped in the one asked for. Returns 0 or an errno code.
 int MakeLevels(const Place &path, unsigned long &end, bool replace_files, unsigned short mode) {
     const std::unique_ptr<NoUmask> exact(mode == kNoMode ? nullptr : new NoUmask);
     const mode_t make_mode = mode == kNoMode ? mode_t{0777} : mode_t{mode};

@@ -22,14 +22,10 @@ constexpr int kOtherFailure = -36;  // an input or output error
 constexpr int kAttempts = 50;
 
 int StatusOf(int error) {
-    switch (error) {
-        case ENOENT:
-            return kRealPathMissing;
-        case ENAMETOOLONG:
-            return kRealPathTooLong;
-        default:
-            return kOtherFailure;
+    if (error == ENOENT) {
+        return kRealPathMissing;
     }
+    return error == ENAMETOOLONG ? kRealPathTooLong : kOtherFailure;
 }
 
 /// The kernel marks the path of an entry that was removed after it was opened. An existing entry

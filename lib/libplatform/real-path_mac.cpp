@@ -15,7 +15,6 @@ const UInt8 *Bytes(const ustring &text) {
 }  // namespace
 
 int RealPath(const ustring &path, Leaf leaf, ustring &real) {
-    real.clear();
     FSRef ref;
     // An entry itself is asked for in the composed form, to which its real path is compared.
     OSStatus status =
@@ -23,14 +22,10 @@ int RealPath(const ustring &path, Leaf leaf, ustring &real) {
             ? FSPathMakeRefWithOptions(Bytes(path.normalize(ustring::NFC)),
                                        kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr)
             : FSPathMakeRef(Bytes(path), &ref, nullptr);
-    if (status != noErr) {
-        return static_cast<int>(status);
-    }
     UInt8 buffer[kRealPathSize] = {};
-    status = FSRefMakePath(&ref, buffer, kRealPathSize);
-    if (status != noErr) {
-        return static_cast<int>(status);
+    if (status == noErr) {
+        status = FSRefMakePath(&ref, buffer, kRealPathSize);
     }
-    real = reinterpret_cast<const char *>(buffer);
-    return 0;
+    real = status == noErr ? reinterpret_cast<const char *>(buffer) : "";
+    return static_cast<int>(status);
 }

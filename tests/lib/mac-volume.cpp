@@ -1,11 +1,11 @@
-// usage: mac-volume FOLDER MOUNTPOINT -f [FUSE options]
+// usage: mac-volume FOLDER MOUNTPOINT -f -s [FUSE options]
 // Shows FOLDER as a volume with the rules of a Mac: names keep their letter case and spelling, but
 // any case and any canonically equivalent spelling finds them. Writes a byte to standard output
 // once it is mounted, and ends when it is unmounted.
 #define FUSE_USE_VERSION 31
-#include <dirent.h>
 #include <fcntl.h>
 #include <fuse3/fuse.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unicode/unistr.h>
 #include <unicode/unorm.h>
@@ -13,9 +13,13 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <string>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -35,12 +39,10 @@ std::string Find(const char *asked) {
     for (size_t pos = 0, end; pos < path.size(); pos = end + 1) {
         end = std::min(path.find('/', pos), path.size());
         std::string name = path.substr(pos, end - pos);
-        if (DIR *const dir = opendir(found.c_str())) {
-            while (const dirent *entry = readdir(dir))
-                if (SameName(entry->d_name, name.c_str()))
-                    name = entry->d_name;
-            closedir(dir);
-        }
+        std::error_code error;
+        for (const auto &entry : fs::directory_iterator(found, error))
+            if (SameName(entry.path().filename().c_str(), name.c_str()))
+                name = entry.path().filename();
         found += "/" + name;
     }
     return found;
@@ -69,12 +71,10 @@ int Create(const char *path, mode_t mode, fuse_file_info *file) {
 
 int List(const char *path, void *buffer, fuse_fill_dir_t fill, off_t, fuse_file_info *,
          fuse_readdir_flags) {
-    DIR *const dir = opendir(Find(path).c_str());
-    if (dir == nullptr)
-        return -errno;
-    while (const dirent *entry = readdir(dir))
-        fill(buffer, entry->d_name, nullptr, 0, fuse_fill_dir_flags(0));
-    return closedir(dir);
+    std::error_code error;
+    for (const auto &entry : fs::directory_iterator(Find(path), error))
+        fill(buffer, entry.path().filename().c_str(), nullptr, 0, fuse_fill_dir_flags(0));
+    return -error.value();
 }
 
 int SetTimes(const char *path, const timespec times[2], fuse_file_info *) {
@@ -131,6 +131,7 @@ fuse_operations Operations() {
 int main(int argc, char **argv) {
     if (argc < 3)
         return 2;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // it must not outlive a test that crashes
     folder = argv[1];
     argv[1] = argv[0];
     const fuse_operations table = Operations();

@@ -74,6 +74,10 @@ TEST_F(VolumeTest, MacRules) {
     FILE_INFO info;
     EXPECT_EQ(GetFileInfo(OnVolume("u\u0308ber/\u00C9"), info), 0);
     EXPECT_EQ(info.path, OnVolume("\u00DCber/\u00E9"));
+    for (const char *twin : {"twin", "TWIN"})  // as on a volume of this type that has both
+        WriteFile(m_folder / twin, "");
+    EXPECT_TRUE(IsFileExist(OnVolume("twin"), true));
+    EXPECT_TRUE(IsFileExist(OnVolume("TWIN"), true));
     EXPECT_EQ(FSRename(OnVolume("foo"), OnVolume("bar"), true), -2);
     EXPECT_EQ(FSRename(OnVolume("foo"), OnVolume("bar"), false), 0);
     EXPECT_TRUE(fs::exists(m_folder / "bar"));

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <sys/prctl.h>
-#include <csignal>
+#include <cstdio>
 
 #include "own-mounts.h"
 
@@ -13,33 +12,21 @@ public:
     MacVolume(const fs::path &folder, const fs::path &mount_point) : m_mount_point(mount_point) {
         fs::create_directories(folder);
         fs::create_directories(mount_point);
-        int ready[2];
-        if (!OwnMounts() || pipe(ready) != 0)
-            return;
-        m_server = fork();
-        if (m_server == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGKILL);
-            dup2(ready[1], STDOUT_FILENO);
-            close(ready[0]);
-            close(ready[1]);
-            execl(MAC_VOLUME, MAC_VOLUME, folder.c_str(), mount_point.c_str(), "-f", "-s", nullptr);
-            _exit(1);
-        }
-        close(ready[1]);
-        char byte;
-        m_mounted = read(ready[0], &byte, 1) == 1;
-        close(ready[0]);
+        const std::string folders = "'" + folder.string() + "' '" + mount_point.string() + "'";
+        if (OwnMounts())
+            m_server = popen(("exec '" MAC_VOLUME "' " + folders + " -f -s").c_str(), "r");
+        m_mounted = m_server != nullptr && std::fgetc(m_server) != EOF;
     }
     ~MacVolume() {
-        umount2(m_mount_point.c_str(), MNT_DETACH);
-        if (m_server > 0)
-            waitpid(m_server, nullptr, 0);
+        umount2(m_mount_point.c_str(), MNT_FORCE | MNT_DETACH);  // ends the server at once
+        if (m_server != nullptr)
+            pclose(m_server);
     }
     /// False where a user may not mount, or without FUSE.
     bool mounted() const { return m_mounted; }
 
 private:
     const fs::path m_mount_point;
-    pid_t m_server = -1;
+    FILE *m_server = nullptr;
     bool m_mounted = false;
 };
