@@ -108,7 +108,7 @@ int Extractor::Extract() {
         return -1;
     }
     MSG_DEBUG("decompress from '%s' to '%s'\n", m_src_path.c_str(), m_dest_path.c_str());
-    Notify_Adapter::GetInstance().UpdateDialogText(StrTable::LoadStr(218));
+    Notify_Adapter::GetInstance().UpdateDialogText(StrTable::LoadStr(StrTable::kPreparingText));
 
     const int total = Count();
     if (total < 1) {

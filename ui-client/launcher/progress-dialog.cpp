@@ -12,12 +12,12 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     const QString icon =
         ToQString(InstallPaths::LauncherResources()) + QStringLiteral("/images/ico_72_lumaris.png");
 
-    setWindowTitle(StrTable::LoadStr(217));
+    setWindowTitle(StrTable::LoadStr(StrTable::kNameText));
     setWindowIcon(QIcon(icon));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setValue(0);
     setRange(0, 100);
-    setLabelText(StrTable::LoadStr(218));
+    setLabelText(StrTable::LoadStr(StrTable::kPreparingText));
     setFont(font);
     setFixedWidth(400);
     setModal(true);

@@ -55,5 +55,5 @@ void Worker::Upgrade() {
         return;
     }
     Q_EMIT sigUpdateProgress(100, 100);
-    Q_EMIT sigSetLabelText(StrTable::LoadStr(39));
+    Q_EMIT sigSetLabelText(StrTable::LoadStr(StrTable::kReadyText));
 }
