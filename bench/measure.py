@@ -16,29 +16,29 @@ Pair = tuple[float, float]  # this project, peer
 
 @dataclass
 class Row:
-    """One line of the table: pairs of seconds, or of megabytes to subtract."""
+    """One line of the table: pairs of figures."""
 
     case: str
     peer: str
     goal: float | None
     pairs: list[Pair]
-    megabytes: bool = False
+    unit: str = "seconds"  # or "size" in MB, or "memory" in MB, which is subtracted
     note: str = ""
 
     def figures(self) -> list[float]:
-        return sorted(a - b if self.megabytes else a / b for a, b in self.pairs)
+        return sorted(a - b if self.unit == "memory" else a / b for a, b in self.pairs)
 
     def cells(self) -> list[str]:
         ours, peer = (statistics.median(side) for side in zip(*self.pairs))
-        figures, shape = self.figures(), "{:+.1f}" if self.megabytes else "{:.2f}"
+        figures, shape = self.figures(), "{:+.1f}" if self.unit == "memory" else "{:.2f}"
         middle = shape.format(statistics.median(figures))
         spread = f"{shape.format(figures[0])} to {shape.format(figures[-1])}"
-        unit = " MB" if self.megabytes else ""
+        unit = " MB" if self.unit == "memory" else ""
         goal, met = "-", "-"
         if self.goal is not None:
             goal = f"{shape.format(self.goal)}{unit}"
             met = "yes" if float(middle) <= self.goal else "**no**"
-        amount = "{:.1f} MB".format if self.megabytes else duration
+        amount: Callable[[float], str] = duration if self.unit == "seconds" else megabytes
         return [
             self.case,
             amount(ours) + self.note,
@@ -47,6 +47,10 @@ class Row:
             goal,
             met,
         ]
+
+
+def megabytes(amount: float) -> str:
+    return f"{amount:.1f} MB"
 
 
 def duration(seconds: float) -> str:
@@ -60,16 +64,19 @@ def duration(seconds: float) -> str:
 class Finished:
     started: float  # on the monotonic clock
     seconds: float
+    busy: float  # seconds of processor time
     megabytes: float  # peak resident memory
 
 
-def run(*words: object) -> Finished:
+def run(*words: object, **environment: str) -> Finished:
     """Runs a program; what earlier ones wrote is on the disk by then."""
     os.sync()
     argv = [str(word) for word in words]
     with tempfile.TemporaryFile() as errors:
         start = time.monotonic()
-        process = subprocess.Popen(argv, stdout=subprocess.DEVNULL, stderr=errors)
+        process = subprocess.Popen(
+            argv, stdout=subprocess.DEVNULL, stderr=errors, env={**os.environ, **environment}
+        )
         _, status, usage = os.wait4(process.pid, 0)
         seconds = time.monotonic() - start
         process.returncode = os.waitstatus_to_exitcode(status)
@@ -77,7 +84,7 @@ def run(*words: object) -> Finished:
             errors.seek(0)
             text = errors.read().decode(errors="replace")
             raise SystemExit(f"{text}error: status {process.returncode}: {' '.join(argv)}")
-    return Finished(start, seconds, usage.ru_maxrss / 1024)
+    return Finished(start, seconds, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024)
 
 
 def seconds(*words: object) -> float:

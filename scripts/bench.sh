@@ -4,7 +4,7 @@
 # usage: scripts/bench.sh [CASE...]     CASE: a part of a case's title; only printed then
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-install_packages "${PACKAGES[@]}" libarchive-tools python3
+install_packages "${PACKAGES[@]}" libarchive-tools python3-matplotlib
 build release
 
 WORK=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-bench.XXXXXX")
@@ -20,4 +20,4 @@ trap clean_up EXIT
 start_display "$WORK/screen"
 mkdir "$WORK/tmp"
 TMPDIR=$WORK/tmp LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb PYTHONDONTWRITEBYTECODE=1 \
-    bench/compare "$ROOT/build-release" "$WORK" "$OTHER_VOLUME" "$@"
+    bench/compare.py "$ROOT/build-release" "$WORK" "$OTHER_VOLUME" "$@"

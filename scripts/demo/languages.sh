@@ -8,10 +8,16 @@ act_languages() {
         [sve]=sv_SE [nld]=nl_NL [plk]=pl_PL [hun]=hu_HU [ptg]=pt_PT [trk]=tr_TR [csy]=cs_CZ)
     local code watch pictures=()
     new_bundle languages 120
+    # The last text stands while this older layout is removed, otherwise for an instant only.
+    mkdir -p "$WORK/aged"
+    (cd "$WORK/aged" && seq 20000 | split -a 5 -l 1 - file-)
     for code in enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy; do
         new_home "language-$code"
-        rm -f "$WORK/dialog.xwd"
-        "$WATCH" "$WORK/screen/Xvfb_screen0" "$WORK/dialog.xwd" > "$WORK/trace-language" &
+        mkdir -p "$USER_DIR"
+        cp -al "$WORK/aged" "$USER_DIR/app"
+        rm -f "$WORK/dialog.xwd" "$WORK/end.xwd"
+        "$WATCH" "$WORK/screen/Xvfb_screen0" "$WORK/dialog.xwd" "$WORK/end.xwd" \
+            > "$WORK/trace-language" &
         watch=$!
         start_launcher LC_ALL="${locales[$code]}.UTF-8"
         TITLE=
@@ -22,12 +28,15 @@ act_languages() {
         wait "$LAUNCHER" || STATUS=$?
         kill "$watch"
         wait "$watch" 2>/dev/null || true
-        [ "$STATUS" -eq 0 ] && client_runs || fail "$code: status $STATUS, or the client does not run"
+        { [ "$STATUS" -eq 0 ] && client_runs; } ||
+            fail "$code: status $STATUS, or the client does not run"
         [ "$TITLE" = "Lumaris Backup" ] || fail "$code: the title is '$TITLE'"
-        [ -s "$WORK/dialog.xwd" ] || fail "$code: the dialog was not seen at work"
+        { [ -s "$WORK/dialog.xwd" ] && [ -s "$WORK/end.xwd" ]; } ||
+            fail "$code: the dialog was not seen at work and at its end"
         check "$code under ${locales[$code]}: dialog, title, catalogue, client" \
             grep -q "qstrDef)=\[$code" "$HOME_DIR/../err"
-        convert "xwd:$WORK/dialog.xwd" -trim +repage "$WORK/$code.png"
+        convert "xwd:$WORK/dialog.xwd" -trim +repage "xwd:$WORK/end.xwd" -trim +repage \
+            -background '#e8e8e8' -append "$WORK/$code.png"
         pictures+=(-label "$code  ${locales[$code]}" "$WORK/$code.png")
         kill -9 "$(client_pid)"
         rm -rf "$HOME_DIR"

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
+#include <string>
 
 namespace {
 
@@ -36,10 +37,8 @@ public:
         const size_t pixels = Word(0) + Word(19) * size_t(12);
         return m_data + pixels + size_t(y) * Word(12) + size_t(x) * 4;
     }
-    void Save(const char *path) const {
-        std::ofstream(path, std::ios::binary)
-            .write(reinterpret_cast<const char *>(m_data), static_cast<std::streamsize>(m_size));
-    }
+    /// All bytes, which are a picture in the XWD format.
+    std::string Copy() const { return {reinterpret_cast<const char *>(m_data), m_size}; }
 
 private:
     uint32_t Word(size_t index) const {
@@ -86,8 +85,8 @@ int FilledPercent(const Screen &screen) {
 }  // namespace
 
 int main(int argc, char **argv) {
-    if (argc != 3) {
-        fprintf(stderr, "usage: dialog-watch Xvfb_screen0 PICTURE.xwd\n");
+    if (argc != 3 && argc != 4) {
+        fprintf(stderr, "usage: dialog-watch Xvfb_screen0 PICTURE.xwd [END_PICTURE.xwd]\n");
         return 2;
     }
     const Screen screen(argv[1]);
@@ -97,11 +96,21 @@ int main(int argc, char **argv) {
     }
     const auto start = std::chrono::steady_clock::now();
     bool saved = false;
+    int ended = 0;  // how often in a row the bar was seen full
+    std::string kept;
     for (int last = -1;; usleep(1000)) {
         const int percent = FilledPercent(screen);
         if (percent == last && percent >= 40 && !saved) {  // painted to the end by now
-            screen.Save(argv[2]);
+            std::ofstream(argv[2], std::ios::binary) << screen.Copy();
             saved = true;
+        }
+        // The last text comes some time after the last step. Kept is a state that was followed by
+        // more of the same: the very last one may show the window half removed.
+        ended = percent == 100 && argc == 4 ? ended + 1 : 0;
+        if (ended % 100 == 50) {
+            kept = screen.Copy();
+        } else if (ended % 100 == 90) {
+            std::ofstream(argv[3], std::ios::binary) << kept;
         }
         if (percent == last || percent < 0) {
             continue;
