@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Measures the launcher beside what one would use instead; scripts/bench.sh prepares and calls it.
 
 usage: compare.py BUILD WORK OTHER_VOLUME [CASE...]
