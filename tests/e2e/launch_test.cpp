@@ -29,44 +29,14 @@ TEST_F(LaunchTest, InstallsUpgradesAndLeavesAlone) {
     EXPECT_FALSE(HasLine("[ERROR]")) << LauncherLog();
 }
 
-TEST_F(LaunchTest, WhatIsPackedIsInstalled) {
-    const fs::path folder = place / "Client.app", contents = folder / "Contents";
-    WriteFile(contents / "Resources/INFO",
-              "[Version]\nmajor_version=2\nminor_version=5\nbuild_version=123\n"
-              "icon_overlay_version=1\n");
-    WriteFile(contents / "Resources" / std::string(200, 'n'), std::string(300000, '\0') + "end");
-    WriteFile(contents / "Resources/Gru\xcc\x88\xc3\x9f \"quoted\"", "");
-    WriteFile(contents / "Resources/secret", "x");
-    fs::permissions(contents / "Resources/secret", fs::perms(0400));
-    fs::create_hard_link(contents / "Resources/secret", contents / "Resources/secret too");
-    fs::create_directories(contents / "MacOS");
-    fs::copy(CLIENT, contents / "MacOS/lumaris-backup-ui");
-    fs::create_directories(contents / "Frameworks/A/Versions/5/Empty");
-    fs::permissions(contents / "Frameworks/A/Versions/5/Empty", fs::perms(0700));
-    fs::create_directory_symlink("5", contents / "Frameworks/A/Versions/Current");
-    fs::create_symlink("Versions/Current/none yet", contents / "Frameworks/A/A");
-
-    const fs::path out = root / "packed";
-    ASSERT_EQ(0, system((LUMARIS_PACK " --level 1 --major 2 --minor 5 --build 123 '" +
-                         folder.string() + "' '" + out.string() + "'")
-                            .c_str()));
-    fs::rename(out / "package/lumaris.wpk", resources / "package/lumaris.wpk");
-    fs::rename(out / "INFO", resources / "INFO");
-    EXPECT_EQ(0, Launch()) << Err();
-    EXPECT_TRUE(ClientRuns()) << LauncherLog();
-    EXPECT_EQ(Tree(folder), Tree(app)) << LauncherLog();
-}
-
 TEST_F(LaunchTest, BadPackageKeepsTheOldInstallation) {
     const fs::path package = resources / "package/lumaris.wpk";
     const std::string whole = ReadFile(package);
-    for (const std::string &content :
-         {std::string("missing"), std::string(), whole.substr(0, whole.size() / 2),
-          std::string("#!/bin/sh\n")}) {
-        SCOPED_TRACE(content.substr(0, 10));
+    for (const std::string &content : {std::string(), whole.substr(0, whole.size() / 2), whole}) {
+        SCOPED_TRACE(content.size());
         Install();
         WriteFile(package, content);
-        if (content == "missing")
+        if (content == whole)
             fs::remove(package);
         EXPECT_EQ(0, Launch());
         EXPECT_TRUE(OldOneIsWhole()) << Tree(lumaris);
@@ -79,30 +49,24 @@ TEST_F(LaunchTest, BadPackageKeepsTheOldInstallation) {
 }
 
 TEST_F(LaunchTest, BadInfoOrPidFileLosesNothing) {
-    for (const std::string info : {"missing", "folder", "\xff[Ver\n=;\x01[Version"}) {
+    for (const std::string info : {"missing", "\xff[Ver\n=;\x01[Version"}) {
         SCOPED_TRACE(info);
         Install();
-        fs::remove_all(resources / "INFO");
-        if (info == "folder")
-            fs::create_directories(resources / "INFO");
-        else if (info != "missing")
-            WriteFile(resources / "INFO", std::string(1, '\0') + info);
+        WriteFile(resources / "INFO", std::string(1, '\0') + info);
+        if (info == "missing")
+            fs::remove(resources / "INFO");
         EXPECT_EQ(0, Launch());
         EXPECT_TRUE(HasLine("): target_version = (, , , )\n")) << LauncherLog();
         EXPECT_TRUE(OldOneIsWhole()) << "a missing version is no newer one";
         EXPECT_TRUE(ClientRuns());
         StopClient();
     }
-    fs::remove_all(resources / "INFO");
     Ship("121");
-    for (const char *const pid : {"[noise", "pid=4194305\n"}) {  // more than a process can have
+    for (const char *const pid : {"pid=4194305\n", "[noise"}) {  // more than a process can have
         Install();
         WriteFile(lumaris / "ui.pid", pid);
         ExpectUpgraded();
     }
-    Install();
-    WriteFile(lumaris / "ui.pid", "[noise");
-    ExpectUpgraded();
     EXPECT_TRUE(HasLine("[NOTE] mac/mac-service(")) << LauncherLog();
 }
 

@@ -147,7 +147,6 @@ struct PackageEntry {
     std::string symlink = {};
     std::string hardlink = {};
     mode_t type = AE_IFREG;
-    int repeat = 1;  // how often the data is written
 };
 using Entries = std::vector<PackageEntry>;
 
@@ -163,11 +162,10 @@ inline void WriteEntry(struct archive *writer, const PackageEntry &item) {
     }
     if (!item.hardlink.empty())
         archive_entry_set_hardlink(entry, item.hardlink.c_str());
-    archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()) * item.repeat);
+    archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()));
     EXPECT_EQ(ARCHIVE_OK, archive_write_header(writer, entry))
         << item.name << ": " << archive_error_string(writer);
-    for (int i = 0; i < item.repeat; ++i)
-        archive_write_data(writer, item.data.data(), item.data.size());
+    archive_write_data(writer, item.data.data(), item.data.size());
     archive_entry_free(entry);
 }
 

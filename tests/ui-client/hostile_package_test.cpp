@@ -73,19 +73,16 @@ TEST_F(HostilePackageTest, OddEntries) {
         {"absolute", {{"/lumaris-hostile/x", "x"}}, "lumaris-hostile/ lumaris-hostile/x=x"},
         {"'/', '.' and needless slashes", {{"/"}, {"./"}, {"//a//./c", "x"}}, "a/ a/c=x"},
         {"no name", {{"a", "1"}, {"", "x"}}, {}},
-        {"file '.'", {{".", "x"}}, "=x"},
         // Links are written as stored, and a later entry may pass through one.
         {"through a link", {link_out, {"l/x", "x"}}, "l->" + out, written},
         {"folder over a link", {link_out, {"l/", "", 0700}, {"l/x", "x"}}, "l->" + out, written},
         {"the bundle a link", {{".", "", 0777, out}, {"x", "x"}}, "kept=k x=x", written},
-        {"file over a link", {link_out, {"l", "x"}}, "l=x"},
         {"link to nowhere", {{"l", "", 0777, "/none"}, {"l/x", "x"}}, {}},
         // Targets of hard links are absolute or start at the working folder, never at the bundle.
         {"hard link out", {linked(out + "/kept")}, "h=k"},
         {"hard link in the package", {{"f", "x"}, linked("f")}, {}},
         {"pipe", {{"p", "", 0644, "", "", AE_IFIFO}}, "p!"},
         {"file twice", {{"a", "1"}, {"a", "2"}}, "a=2"},
-        {"folder twice", {{"a/"}, {"a/x", "1"}, {"a/"}}, "a/ a/x=1"},
         {"file for a full folder", {{"d/x", "1"}, {"d", "f"}}, {}},
         {"folder for a file", {{"d", "f"}, {"d/"}, {"d/x", "1"}}, "d/ d/x=1"},
         {"file as folder", {{"d", "f"}, {"d/x", "1"}}, {}},
@@ -156,24 +153,12 @@ TEST_F(HostilePackageTest, NamesThatCannotBeRemoved) {
 // Some formats end where their bytes end, and a zip keeps modes and links in the directory at its
 // end. In every other one a cut is seen.
 TEST_F(HostilePackageTest, CutAnywhere) {
-    const std::set<std::string> may_differ = {"gnutar", "pax", "mtree", "compress", "zip"};
-    const struct {
-        const char *format, *filter = "";
-    } kinds[] = {{"gnutar"},
-                 {"pax"},
-                 {"mtree"},
-                 {"newc"},
-                 {"odc"},
-                 {"zip"},
-                 {"7zip"},
-                 {"xar"},
-                 {"gnutar", "gzip"},
-                 {"gnutar", "xz"},
-                 {"gnutar", "bzip2"},
-                 {"gnutar", "zstd"},
-                 {"gnutar", "lz4"},
-                 {"gnutar", "lzip"},
-                 {"gnutar", "compress"}};
+    const std::set<std::string> may_differ = {"gnutar", "pax", "mtree", "zip"};
+    const std::pair<const char *, const char *> kinds[] = {
+        {"gnutar", ""},    {"pax", ""},         {"mtree", ""},      {"newc", ""},
+        {"zip", ""},       {"7zip", ""},        {"xar", ""},        {"gnutar", "gzip"},
+        {"gnutar", "xz"},  {"gnutar", "bzip2"}, {"gnutar", "zstd"}, {"gnutar", "lz4"},
+        {"gnutar", "lzip"}};
     std::mt19937 random(20240611);
     std::string noise(Long() ? 700 : 3000, ' ');
     std::generate(noise.begin(), noise.end(), [&] { return char(random() % 64 + 32); });

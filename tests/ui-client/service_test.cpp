@@ -81,19 +81,6 @@ TEST_F(ServiceTest, Versions) {
     EXPECT_TRUE(Logged("): target_version = (2, 5, 121, 7)\n")) << Log();
 }
 
-TEST_F(ServiceTest, UpgradeUsesTheFirstFreeBackupName) {
-    Install();
-    for (const char *taken : {"", "1", "3"})
-        WriteFile(backup.string() + taken + "/stale", "x");
-    WritePackage(package, ClientPackage("121", "new"));
-    EXPECT_EQ(0, service.PrepareUserEnv()) << Log();
-    EXPECT_EQ("new", Installed());
-    EXPECT_TRUE(Logged("'" + backup.string() + "1'\n")) << Log();
-    EXPECT_FALSE(Logged("'" + backup.string() + "2'\n")) << "this one was free";
-    EXPECT_FALSE(fs::exists(backup)) << "each name up to the one used";
-    EXPECT_TRUE(fs::exists(backup.string() + "3"));
-}
-
 TEST_F(ServiceTest, FailedExtractionRollsBack) {
     Entries entries = ClientPackage("121", "new");
     entries.push_back({"a/../../x", "refused, when everything else is in place"});
@@ -117,17 +104,7 @@ TEST_F(ServiceTest, FailedExtractionRollsBack) {
     EXPECT_TRUE(Logged("[WARNING] lumaris-service(")) << Log();
 }
 
-TEST_F(ServiceTest, NoPlaceForBackupOrBundle) {
-    Install();
-    for (int i = 0; i < 10; ++i)
-        WriteFile(backup.string() + (i ? std::to_string(i) : "") + "/stale", "x");
-    WritePackage(package, ClientPackage("121"));
-    EXPECT_EQ(-1, service.PrepareUserEnv());
-    EXPECT_EQ("old", Installed());
-    EXPECT_TRUE(Logged("_tmp9' at max retries, exiting\n")) << Log();
-    EXPECT_FALSE(Logged("_tmp10"));
-
-    fs::remove_all(lumaris);
+TEST_F(ServiceTest, NoPlaceForTheBundle) {
     WriteFile(lumaris, "not a folder");
     EXPECT_EQ(-1, service.PrepareUserEnv());
     EXPECT_TRUE(Logged("failed to create folder: '" + app.string() + "'\n")) << Log();
