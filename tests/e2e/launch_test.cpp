@@ -29,47 +29,6 @@ TEST_F(LaunchTest, InstallsUpgradesAndLeavesAlone) {
     EXPECT_FALSE(HasLine("[ERROR]")) << LauncherLog();
 }
 
-TEST_F(LaunchTest, BadPackageKeepsTheOldInstallation) {
-    const fs::path package = resources / "package/lumaris.wpk";
-    const std::string whole = ReadFile(package);
-    for (const std::string &content : {std::string(), whole.substr(0, whole.size() / 2), whole}) {
-        SCOPED_TRACE(content.size());
-        Install();
-        WriteFile(package, content);
-        if (content == whole)
-            fs::remove(package);
-        EXPECT_EQ(0, Launch());
-        EXPECT_TRUE(OldOneIsWhole()) << Tree(lumaris);
-        EXPECT_TRUE(ClientRuns());
-        EXPECT_TRUE(HasLine("[ERROR] extractor(")) << LauncherLog();
-        EXPECT_TRUE(HasLine("): Failed to upgrade package\n"));
-        EXPECT_FALSE(fs::exists(Backup()));
-        StopClient();
-    }
-}
-
-TEST_F(LaunchTest, BadInfoOrPidFileLosesNothing) {
-    for (const std::string info : {"missing", "\xff[Ver\n=;\x01[Version"}) {
-        SCOPED_TRACE(info);
-        Install();
-        WriteFile(resources / "INFO", std::string(1, '\0') + info);
-        if (info == "missing")
-            fs::remove(resources / "INFO");
-        EXPECT_EQ(0, Launch());
-        EXPECT_TRUE(HasLine("): target_version = (, , , )\n")) << LauncherLog();
-        EXPECT_TRUE(OldOneIsWhole()) << "a missing version is no newer one";
-        EXPECT_TRUE(ClientRuns());
-        StopClient();
-    }
-    Ship("121");
-    for (const char *const pid : {"pid=4194305\n", "[noise"}) {  // more than a process can have
-        Install();
-        WriteFile(lumaris / "ui.pid", pid);
-        ExpectUpgraded();
-    }
-    EXPECT_TRUE(HasLine("[NOTE] mac/mac-service(")) << LauncherLog();
-}
-
 TEST_F(LaunchTest, LogFolderThatCannotBeMade) {
     Install();
     WriteFile(lumaris / "log", "a file");
@@ -85,25 +44,6 @@ TEST_F(LaunchTest, LogFolderThatCannotBeMade) {
     EXPECT_EQ(0, Launch());
     EXPECT_EQ("a file where the folder should be", ReadFile(lumaris));
     EXPECT_TRUE(Said("): Failed to launch Lumaris UI\n")) << Err();
-}
-
-TEST_F(LaunchTest, HomeThatCannotBeWritten) {
-    Install();
-    fs::permissions(root, fs::perms(0755));
-    fs::permissions(lumaris, fs::perms(0555));
-    std::vector<std::string> somebody;
-    if (geteuid() == 0)
-        somebody = {"setpriv", "--reuid=65534", "--clear-groups"};
-    // A temporary folder that cannot be written keeps nobody from starting either.
-    for (const int mode : {0777, 0555}) {
-        fs::permissions(tmp, fs::perms(mode));
-        EXPECT_EQ(0, Launch(somebody));
-        EXPECT_TRUE(OldOneIsWhole());
-        EXPECT_TRUE(Said("at max retries, exiting\n")) << Err();
-        StopClient();
-    }
-    for (const fs::path &folder : {tmp, lumaris})
-        fs::permissions(folder, fs::perms(0755));
 }
 
 TEST_F(LaunchTest, NoPluginFolderIsSaidAndTouchesNothing) {

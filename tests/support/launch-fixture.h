@@ -49,9 +49,9 @@ protected:
     fs::path Backup(int index = 0) const {
         return app.string() + "_tmp" + (index == 0 ? "" : std::to_string(index));
     }
-    std::string InstalledInfo() const { return ReadFile(app / "Contents/Resources/INFO"); }
     bool Whole(const std::string &build) const {
-        return InstalledInfo() == Info(build) && ReadFile(client) == ReadFile(CLIENT);
+        return ReadFile(app / "Contents/Resources/INFO") == Info(build) &&
+               ReadFile(client) == ReadFile(CLIENT);
     }
     bool OldOneIsWhole() const { return Whole("120") && ReadFile(app / "old file") == "old"; }
     bool NewOneIsWhole() const {
@@ -115,11 +115,6 @@ protected:
     /// Waits for the client that the launcher opened.
     bool ClientRuns() const {
         return Eventually([this] { return ClientPid() > 0 && kill(ClientPid(), 0) == 0; });
-    }
-    void StartClient() const {
-        const std::string start = "'" + client.string() + "' &";
-        EXPECT_EQ(0, system(start.c_str()));
-        EXPECT_TRUE(ClientRuns());
     }
     /// Ends every client of this place, where /proc shows them those that have not written their
     /// pid file yet included.

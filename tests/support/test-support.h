@@ -9,10 +9,12 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -41,7 +43,7 @@ inline std::string ReadFile(const fs::path &path) {
 
 /// For what other processes do at once, unless they are broken.
 inline bool Eventually(const std::function<bool()> &holds) {
-    for (int attempt = 0; attempt < 10000; ++attempt, usleep(2000))
+    for (const time_t end = time(nullptr) + 10; time(nullptr) < end; usleep(2000))
         if (holds())
             return true;
     return false;
@@ -80,25 +82,26 @@ inline std::string Describe(const fs::path &path, const std::string &name) {
     lstat(path.c_str(), &st);
     if (S_ISLNK(st.st_mode))
         return name + "->" + fs::read_symlink(path).string();
-    std::string text = S_ISDIR(st.st_mode) ? name + "/" : name + "!";
-    if (S_ISREG(st.st_mode)) {
-        const std::string content = ReadFile(path);
-        const size_t hash = std::hash<std::string>()(content);
-        text = name + "=" + (content.size() < 100 ? content : "#" + std::to_string(hash));
-    }
-    char mode[16];
-    snprintf(mode, sizeof(mode), ":%o", st.st_mode & 07777U);
-    return text + ((st.st_mode & 07777) == (S_ISDIR(st.st_mode) ? 0755 : 0644) ? "" : mode);
+    const std::string content = S_ISREG(st.st_mode) ? ReadFile(path) : "";
+    const std::string hash = "#" + std::to_string(std::hash<std::string>()(content));
+    char mode[16] = "";
+    if ((st.st_mode & 07777) != (S_ISDIR(st.st_mode) ? 0755 : 0644))
+        snprintf(mode, sizeof(mode), ":%o", st.st_mode & 07777U);
+    return name +
+           (S_ISDIR(st.st_mode)   ? "/"
+            : S_ISREG(st.st_mode) ? "="
+                                  : "!") +
+           (content.size() < 100 ? content : hash) + mode;
 }
 
 /// What lies below `folder`, sorted.
 inline std::string Tree(const fs::path &folder) {
+    std::set<std::string> lines;
     if (!fs::is_directory(folder))
-        return Describe(folder, "");
-    std::vector<std::string> lines;
-    for (const auto &entry : fs::recursive_directory_iterator(folder))
-        lines.push_back(Describe(entry, entry.path().lexically_relative(folder).string()));
-    std::sort(lines.begin(), lines.end());
+        lines.insert(Describe(folder, ""));
+    else
+        for (const auto &entry : fs::recursive_directory_iterator(folder))
+            lines.insert(Describe(entry, entry.path().lexically_relative(folder).string()));
     std::string tree;
     for (const std::string &line : lines)
         tree += (tree.empty() ? "" : " ") + line;

@@ -12,7 +12,7 @@
 
 namespace {
 
-std::vector<std::string> desktop_calls;
+std::string desktop_calls;
 int unregister_result = 0;
 bool open_result = true;
 
@@ -20,11 +20,11 @@ bool open_result = true;
 
 // The desktop's double: notes what it is asked for and answers as told.
 int LaunchServices::UnregisterBundle(const QString &bundle) {
-    desktop_calls.push_back("unregister " + bundle.toStdString());
+    desktop_calls += "unregister " + bundle.toStdString() + "\n";
     return unregister_result;
 }
 bool LaunchServices::OpenBundle(const QString &bundle) {
-    desktop_calls.push_back("open " + bundle.toStdString());
+    desktop_calls += "open " + bundle.toStdString() + "\n";
     return open_result;
 }
 
@@ -128,13 +128,12 @@ TEST_F(MacServiceTest, OpensTheBundleWhateverTheDesktopSays) {
     const std::string bundle = app.string();
     for (const int unregister : {0, 1, -2})
         for (const bool open : {true, false}) {
-            desktop_calls.clear();
+            desktop_calls = "";
             fs::resize_file(root / "log", 0);
             unregister_result = unregister;
             open_result = open;
             service.PostUpgrade();
-            EXPECT_EQ((std::vector<std::string>{"unregister " + bundle, "open " + bundle}),
-                      desktop_calls);
+            EXPECT_EQ("unregister " + bundle + "\nopen " + bundle + "\n", desktop_calls);
             EXPECT_EQ(unregister != 0, Logged("Cannot unregister bundle, " + bundle)) << Log();
             EXPECT_FALSE(Logged(bundle + "\n")) << "this message has no line break";
             EXPECT_EQ(!open, Logged("): Failed to launch Lumaris UI\n")) << Log();
