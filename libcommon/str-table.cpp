@@ -26,8 +26,9 @@ void InitStrTable() {
 }
 
 QString LoadStr(int id) {
-    if (id < 0 || id >= kCount || stab[id] == nullptr)
+    if (id < 0 || id >= kCount || stab[id] == nullptr) {
         return QString();
+    }
     QString text = QCoreApplication::translate("global", stab[id]);
     text.replace(QLatin1String("\\n"), QLatin1String("\n"));
     text.replace(QLatin1String("\\t"), QLatin1String("\t"));
@@ -38,8 +39,9 @@ int LookupStrID(QString key) {
     const QByteArray wanted = key.toLocal8Bit();
     for (int id = 0; id < kCount; ++id) {
         // qstricmp takes a table that is not filled yet (null) as less than every key.
-        if (qstricmp(wanted.constData(), ktab[id]) == 0)
+        if (qstricmp(wanted.constData(), ktab[id]) == 0) {
             return id;
+        }
     }
     return -1;
 }

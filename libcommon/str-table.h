@@ -5,6 +5,11 @@
 /// The user-interface texts: each has a numeric ID (0 to 259), a key and an English text.
 namespace StrTable {
 
+// The texts that the launcher itself shows.
+inline constexpr int kReadyText = 39;       // the label after an upgrade
+inline constexpr int kNameText = 217;       // the title of the dialog
+inline constexpr int kPreparingText = 218;  // the label until then
+
 /// Fills the table; called once, before any other thread asks for a text.
 void InitStrTable();
 

@@ -22,7 +22,7 @@ constexpr int kLanguageCount = int(std::size(grgszLanguages)) - 1;
 
 const QString qstrLanguageFallSafe = QStringLiteral("enu");
 
-/// Codes by ISO 639-1 language; the country decides only in `codeForLocale`.
+/// Codes by ISO 639-1 language; the country decides only in `languageForLocale`.
 QString codeForLanguage(const QString &language) {
     const QMap<QString, QString> table = {
         {QStringLiteral("en"), QStringLiteral("enu")},
@@ -49,45 +49,49 @@ QString codeForLanguage(const QString &language) {
     return table.value(language, table.value(QStringLiteral("en")));
 }
 
-/// `locale` is a lower-case locale name such as "zh_tw".
-QString codeForLocale(const QString &locale) {
+}  // namespace
+
+QString languageForLocale(const QString &locale) {
     static const QStringList traditionalChinese = {QStringLiteral("zh_tw"), QStringLiteral("zh_hk"),
                                                    QStringLiteral("zh_mo")};
     static const QStringList europeanPortuguese = {QStringLiteral("pt"), QStringLiteral("pt_pt")};
 
-    if (traditionalChinese.contains(locale))
+    if (traditionalChinese.contains(locale)) {
         return QStringLiteral("cht");
-    if (europeanPortuguese.contains(locale))
+    }
+    if (europeanPortuguese.contains(locale)) {
         return QStringLiteral("ptg");
+    }
     return codeForLanguage(locale.section(QLatin1Char('_'), 0, 0));
 }
-
-}  // namespace
 
 QString getDefaultLanguage() {
     const QString qstrLocaleLower = QLocale::system().name().toLower();
     TRACE_VALUE("[%s\n] ", qPrintable(qstrLocaleLower));
     TRACE_VALUE("[%s] ", qPrintable(qstrLocaleLower));
 
-    QString qstrDef = codeForLocale(qstrLocaleLower);
-    if (!isLanguageInstalled(qstrDef))
+    QString qstrDef = languageForLocale(qstrLocaleLower);
+    if (!isLanguageInstalled(qstrDef)) {
         qstrDef = qstrLanguageFallSafe;
+    }
     TRACE_VALUE("[%s\n] ", qPrintable(qstrDef));
     return qstrDef;
 }
 
-bool isLanguageInstalled(QString const &code) {
+bool isLanguageInstalled(const QString &code) {
     const QString qstrLangFileName = QStringLiteral(":/") + code + QStringLiteral(".qm");
-    if (!QFile::exists(qstrLangFileName))
+    if (!QFile::exists(qstrLangFileName)) {
         return false;
+    }
     TRACE_VALUE("[%s\n] ", qPrintable(qstrLangFileName));
     return true;
 }
 
 QStringList getSupportedLanguages() {
     QStringList codes;
-    for (int id = 0; id < kLanguageCount; ++id)
+    for (int id = 0; id < kLanguageCount; ++id) {
         codes += QString::fromLatin1(grgszLanguages[id]);
+    }
     return codes;
 }
 
@@ -96,8 +100,9 @@ QString getStrLanguageFallSafe() {
 }
 
 QString getLanguageAbbrByID(int id) {
-    if (id < 0 || id >= kLanguageCount)
+    if (id < 0 || id >= kLanguageCount) {
         return QString();
+    }
     return QString::fromLatin1(grgszLanguages[id]);
 }
 

@@ -9,8 +9,12 @@ namespace TarnLocale {
 /// Code of the language that fits the system locale and is embedded; "enu" when none does.
 QString getDefaultLanguage();
 
+/// Code of the language for a locale name in lower case, such as "zh_tw" or "pt", whether or not it
+/// is embedded. Which names a system gives differs.
+QString languageForLocale(const QString &locale);
+
 /// True when a translation for `code` is embedded in the program.
-bool isLanguageInstalled(QString const &code);
+bool isLanguageInstalled(const QString &code);
 
 /// The twenty codes in the order of their IDs.
 QStringList getSupportedLanguages();

@@ -9,7 +9,7 @@ cd "$ROOT"
 # What building, testing and the demo need beyond a bare Debian 12.
 PACKAGES=(
     g++ cmake ninja-build
-    qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libgtest-dev
+    qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev libgtest-dev
     libbenchmark-dev libspdlog-dev
     dpkg-dev file zstd xvfb openbox xdotool x11-utils imagemagick time procps strace python3
     fonts-liberation fonts-noto-cjk

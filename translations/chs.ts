@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Now</source>
-        <translation>立即执行</translation>
+        <translation>现在</translation>
     </message>
     <message>
         <source>This computer is linked to a different Brix. Check the server address.</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>设置要备份的文件夹</translation>
+        <translation>设置备份所用的文件夹</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>Last upload: %1</source>
-        <translation>上次上传时间：%1</translation>
+        <translation>上次上传：%1</translation>
     </message>
     <message>
         <source>Do not use a proxy server</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Now</source>
-        <translation>立即執行</translation>
+        <translation>現在</translation>
     </message>
     <message>
         <source>This computer is linked to a different Brix. Check the server address.</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Another backup folder has this name. Choose a different folder.</source>
-        <translation>已有另一個備份資料夾使用此名稱。請選擇其他資料夾。</translation>
+        <translation>已有另一個要備份的資料夾使用此名稱。請選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Add a folder</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>設定備份資料夾</translation>
+        <translation>設定備份所用的資料夾</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>The backup failed. Check the backup folders and try again.</source>
-        <translation>備份失敗。請檢查備份資料夾，然後再試一次。</translation>
+        <translation>備份失敗。請檢查要備份的資料夾，然後再試一次。</translation>
     </message>
     <message>
         <source>Version</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Backup folders</source>
-        <translation>備份資料夾</translation>
+        <translation>要備份的資料夾</translation>
     </message>
     <message>
         <source>The port is not valid. Enter a number from 1 to 65535.</source>
@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>The backup folder could not be found. Put it back or remove it from the backup task.</source>
-        <translation>找不到備份資料夾。請將資料夾放回原處，或將其從備份工作中移除。</translation>
+        <translation>找不到要備份的資料夾。請將資料夾放回原處，或將其從備份工作中移除。</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>The drive of the backup folder is not connected. Connect it and try again.</source>
-        <translation>備份資料夾所在的磁碟機尚未連接。請連接磁碟機，然後再試一次。</translation>
+        <translation>要備份的資料夾所在的磁碟機尚未連接。請連接磁碟機，然後再試一次。</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>The backup direction does not match the server. Remove the task and create it again.</source>
-        <translation>備份方向與伺服器不符。請刪除此備份工作，然後重新建立。</translation>
+        <translation>備份方向與伺服器不符。請移除此備份工作，然後重新建立。</translation>
     </message>
     <message>
         <source>Lumaris Backup is too old for the server. Update it and try again.</source>
@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>This is not a valid backup folder. Choose a different folder.</source>
-        <translation>這不是有效的備份資料夾。請選擇其他資料夾。</translation>
+        <translation>這個資料夾不能作為要備份的資料夾。請選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Restore</source>

@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>The value 0 means no limit.</source>
-        <translation>Hodnota 0 znamená, že velikost není omezená.</translation>
+        <translation>Hodnota 0 znamená bez omezení.</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Enter the proxy settings manually</source>
-        <translation>Zadat nastavení proxy serveru ručně</translation>
+        <translation>Zadávat nastavení proxy serveru ručně</translation>
     </message>
     <message>
         <source>Keep files on the server when they are deleted on this computer</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Nastavte zdrojové složky</translation>
+        <translation>Nastavte složky pro zálohování</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>The drive of the backup folder is not connected. Connect it and try again.</source>
-        <translation>Jednotka se zdrojovou složkou není připojená. Připojte ji a zkuste to znovu.</translation>
+        <translation>Disk se zdrojovou složkou není připojený. Připojte ho a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Continue anyway</source>

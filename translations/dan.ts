@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Konfigurer kildemapperne</translation>
+        <translation>Konfigurer mapperne til sikkerhedskopieringen</translation>
     </message>
     <message>
         <source>Updating...</source>

@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>The value 0 means no limit.</source>
-        <translation>Der Wert 0 bedeutet unbegrenzt.</translation>
+        <translation>Der Wert 0 bedeutet keine Begrenzung.</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Last week</source>
-        <translation>Letzte Woche</translation>
+        <translation>Letzte 7 Tage</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>Last month</source>
-        <translation>Letzter Monat</translation>
+        <translation>Letzte 30 Tage</translation>
     </message>
     <message>
         <source>Today</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>Your account may not use Korvo. Ask your administrator for permission.</source>
-        <translation>Ihr Konto darf Korvo nicht verwenden. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
+        <translation>Mit Ihrem Konto dürfen Sie Korvo nicht verwenden. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
     </message>
     <message>
         <source>Remove old versions</source>

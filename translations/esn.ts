@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Check the settings before you start.</source>
-        <translation>Revise la configuración antes de empezar.</translation>
+        <translation>Revise los ajustes antes de empezar.</translation>
     </message>
     <message>
         <source>July</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Configuración</translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>The value 0 means no limit.</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
-        <translation>Reinicie %1 para aplicar la nueva configuración de idioma.</translation>
+        <translation>Reinicie %1 para aplicar los nuevos ajustes de idioma.</translation>
     </message>
     <message>
         <source>Keyword:</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Another backup folder has this name. Choose a different folder.</source>
-        <translation>Otra carpeta de copia de seguridad ya tiene este nombre. Elija otra carpeta.</translation>
+        <translation>Otra carpeta de origen ya tiene este nombre. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Add a folder</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Enter the proxy settings manually</source>
-        <translation>Especificar manualmente la configuración del proxy</translation>
+        <translation>Especificar manualmente los ajustes del proxy</translation>
     </message>
     <message>
         <source>Keep files on the server when they are deleted on this computer</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Configurar las carpetas de copia de seguridad</translation>
+        <translation>Configurar las carpetas para la copia de seguridad</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Use the proxy settings of the system</source>
-        <translation>Usar la configuración de proxy del sistema</translation>
+        <translation>Usar los ajustes de proxy del sistema</translation>
     </message>
     <message>
         <source>Size:</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Proxy settings</source>
-        <translation>Configuración del proxy</translation>
+        <translation>Ajustes del proxy</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>The backup failed. Check the backup folders and try again.</source>
-        <translation>No se pudo completar la copia de seguridad. Compruebe las carpetas de copia de seguridad e inténtelo de nuevo.</translation>
+        <translation>No se pudo completar la copia de seguridad. Compruebe las carpetas de origen e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Version</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Backup folders</source>
-        <translation>Carpetas de copia de seguridad</translation>
+        <translation>Carpetas de origen</translation>
     </message>
     <message>
         <source>The port is not valid. Enter a number from 1 to 65535.</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>The server certificate has changed. Confirm it in the connection settings.</source>
-        <translation>El certificado del servidor ha cambiado. Confírmelo en la configuración de conexión.</translation>
+        <translation>El certificado del servidor ha cambiado. Confírmelo en los ajustes de conexión.</translation>
     </message>
     <message>
         <source>March</source>
@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>The backup folder could not be found. Put it back or remove it from the backup task.</source>
-        <translation>No se encontró la carpeta de copia de seguridad. Devuélvala a su lugar o quítela de la tarea de copia de seguridad.</translation>
+        <translation>No se encontró la carpeta de origen. Devuélvala a su lugar o quítela de la tarea de copia de seguridad.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>The server certificate could not be verified. Check the settings or ask your administrator.</source>
-        <translation>No se pudo verificar el certificado del servidor. Compruebe la configuración o consulte al administrador.</translation>
+        <translation>No se pudo verificar el certificado del servidor. Compruebe los ajustes o consulte al administrador.</translation>
     </message>
     <message>
         <source>How to set up Lumaris Backup</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>The drive of the backup folder is not connected. Connect it and try again.</source>
-        <translation>La unidad de la carpeta de copia de seguridad no está conectada. Conéctela e inténtelo de nuevo.</translation>
+        <translation>La unidad de la carpeta de origen no está conectada. Conéctela e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -869,7 +869,7 @@
     </message>
     <message>
         <source>The server rejected the request. Check your settings and try again.</source>
-        <translation>El servidor rechazó la solicitud. Compruebe la configuración e inténtelo de nuevo.</translation>
+        <translation>El servidor rechazó la solicitud. Compruebe los ajustes e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Calendar</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Aplicando la configuración...</translation>
+        <translation>Aplicando los ajustes...</translation>
     </message>
     <message>
         <source>Any type</source>
@@ -949,7 +949,7 @@
     </message>
     <message>
         <source>The backup task could not be created. Check its settings and try again.</source>
-        <translation>No se pudo crear la tarea de copia de seguridad. Compruebe la configuración de la tarea e inténtelo de nuevo.</translation>
+        <translation>No se pudo crear la tarea de copia de seguridad. Compruebe los ajustes de la tarea e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Pause</source>

@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Check the settings before you start.</source>
-        <translation>Vérifiez les paramètres avant de démarrer.</translation>
+        <translation>Vérifiez les réglages avant de démarrer.</translation>
     </message>
     <message>
         <source>July</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Paramètres</translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>The value 0 means no limit.</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
-        <translation>Veuillez redémarrer %1 pour appliquer les nouveaux paramètres de langue.</translation>
+        <translation>Veuillez redémarrer %1 pour appliquer les nouveaux réglages de langue.</translation>
     </message>
     <message>
         <source>Keyword:</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Enter the proxy settings manually</source>
-        <translation>Saisir manuellement les paramètres du proxy</translation>
+        <translation>Saisir manuellement les réglages du proxy</translation>
     </message>
     <message>
         <source>Keep files on the server when they are deleted on this computer</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Configuration des dossiers à sauvegarder</translation>
+        <translation>Configuration des dossiers pour la sauvegarde</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Use the proxy settings of the system</source>
-        <translation>Utiliser les paramètres de proxy du système</translation>
+        <translation>Utiliser les réglages de proxy du système</translation>
     </message>
     <message>
         <source>Size:</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Proxy settings</source>
-        <translation>Paramètres du proxy</translation>
+        <translation>Réglages du proxy</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>The server certificate has changed. Confirm it in the connection settings.</source>
-        <translation>Le certificat du serveur a changé. Confirmez-le dans les paramètres de connexion.</translation>
+        <translation>Le certificat du serveur a changé. Confirmez-le dans les réglages de connexion.</translation>
     </message>
     <message>
         <source>March</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>The server certificate could not be verified. Check the settings or ask your administrator.</source>
-        <translation>Impossible de vérifier le certificat du serveur. Vérifiez les paramètres ou contactez votre administrateur.</translation>
+        <translation>Impossible de vérifier le certificat du serveur. Vérifiez les réglages ou contactez votre administrateur.</translation>
     </message>
     <message>
         <source>How to set up Lumaris Backup</source>
@@ -869,7 +869,7 @@
     </message>
     <message>
         <source>The server rejected the request. Check your settings and try again.</source>
-        <translation>Le serveur a rejeté la demande. Vérifiez vos paramètres et réessayez.</translation>
+        <translation>Le serveur a rejeté la demande. Vérifiez vos réglages et réessayez.</translation>
     </message>
     <message>
         <source>Calendar</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Application des paramètres...</translation>
+        <translation>Application des réglages...</translation>
     </message>
     <message>
         <source>Any type</source>
@@ -949,7 +949,7 @@
     </message>
     <message>
         <source>The backup task could not be created. Check its settings and try again.</source>
-        <translation>Impossible de créer la tâche de sauvegarde. Vérifiez ses paramètres et réessayez.</translation>
+        <translation>Impossible de créer la tâche de sauvegarde. Vérifiez ses réglages et réessayez.</translation>
     </message>
     <message>
         <source>Pause</source>

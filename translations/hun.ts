@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Mentendő mappák beállítása</translation>
+        <translation>A biztonsági mentés mappáinak beállítása</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Use this folder</source>
-        <translation>E mappa használata</translation>
+        <translation>A mappa használata</translation>
     </message>
     <message>
         <source>The shared folder is read-only. Choose one that you can write to.</source>

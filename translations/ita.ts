@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Informazioni su Lumaris Backup</translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Configura le cartelle di origine</translation>
+        <translation>Configura le cartelle per il backup</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Remove old versions</source>
-        <translation>Rimuovi versioni precedenti</translation>
+        <translation>Rimuovi le vecchie versioni</translation>
     </message>
     <message>
         <source>The username could not be checked. Make sure that it is correct.</source>

@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>Shared folder enabled</source>
-        <translation>共有フォルダー有効</translation>
+        <translation>共有フォルダーが有効</translation>
     </message>
     <message>
         <source>Last page</source>

@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Lumaris Backup에 관하여</translation>
+        <translation>정보</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>백업할 폴더 설정</translation>
+        <translation>백업에 사용할 폴더 설정</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Remove old versions</source>
-        <translation>이전 버전 삭제</translation>
+        <translation>오래된 버전 삭제</translation>
     </message>
     <message>
         <source>The username could not be checked. Make sure that it is correct.</source>

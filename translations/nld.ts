@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Over Lumaris Backup</translation>
+        <translation>Over</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Stel de bronmappen in</translation>
+        <translation>Stel de mappen voor de back-up in</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>Quit</source>
-        <translation>Stop Lumaris Backup</translation>
+        <translation>Sluit af</translation>
     </message>
     <message>
         <source>Next pages (%1)</source>

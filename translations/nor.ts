@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Connect to your Brix</source>
-        <translation>Koble til din Brix</translation>
+        <translation>Koble til Brix-enheten din</translation>
     </message>
     <message>
         <source>Dialog box</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Konfigurer kildemappene</translation>
+        <translation>Konfigurer mappene for sikkerhetskopieringen</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Lumaris Backup continuously backs up your folders to your Brix.</source>
-        <translation>Lumaris Backup sikkerhetskopierer mappene dine kontinuerlig til din Brix.</translation>
+        <translation>Lumaris Backup sikkerhetskopierer mappene dine kontinuerlig til Brix-enheten din.</translation>
     </message>
     <message>
         <source>Choose the folders to back up and the shared folder for the backup.</source>

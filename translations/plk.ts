@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Not needed</source>
-        <translation>Nie potrzebuję</translation>
+        <translation>Niepotrzebne</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Skonfiguruj foldery źródłowe</translation>
+        <translation>Skonfiguruj foldery do tworzenia kopii zapasowej</translation>
     </message>
     <message>
         <source>Updating...</source>

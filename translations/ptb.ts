@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Check the settings before you start.</source>
-        <translation>Verifique as configurações antes de começar.</translation>
+        <translation>Verifique os ajustes antes de começar.</translation>
     </message>
     <message>
         <source>July</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Configurações</translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>The value 0 means no limit.</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Please restart %1 to apply the new language settings.</source>
-        <translation>Reinicie o %1 para aplicar as novas configurações de idioma.</translation>
+        <translation>Reinicie o %1 para aplicar os novos ajustes de idioma.</translation>
     </message>
     <message>
         <source>Keyword:</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Another backup folder has this name. Choose a different folder.</source>
-        <translation>Já existe uma pasta de backup com este nome. Escolha outra pasta.</translation>
+        <translation>Já existe uma pasta de origem com este nome. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>Add a folder</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Enter the proxy settings manually</source>
-        <translation>Inserir as configurações de proxy manualmente</translation>
+        <translation>Inserir os ajustes de proxy manualmente</translation>
     </message>
     <message>
         <source>Keep files on the server when they are deleted on this computer</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Configurar as pastas de backup</translation>
+        <translation>Configurar as pastas para o backup</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -421,7 +421,7 @@
     </message>
     <message>
         <source>Use the proxy settings of the system</source>
-        <translation>Usar as configurações de proxy do sistema</translation>
+        <translation>Usar os ajustes de proxy do sistema</translation>
     </message>
     <message>
         <source>Size:</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Proxy settings</source>
-        <translation>Configurações de proxy</translation>
+        <translation>Ajustes de proxy</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>The backup failed. Check the backup folders and try again.</source>
-        <translation>O backup falhou. Verifique as pastas de backup e tente novamente.</translation>
+        <translation>O backup falhou. Verifique as pastas de origem e tente novamente.</translation>
     </message>
     <message>
         <source>Version</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Lumaris Backup continuously backs up your folders to your Brix.</source>
-        <translation>O Lumaris Backup faz backup contínuo das suas pastas para o seu Brix.</translation>
+        <translation>O Lumaris Backup faz backup contínuo das suas pastas no seu Brix.</translation>
     </message>
     <message>
         <source>Choose the folders to back up and the shared folder for the backup.</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Backup folders</source>
-        <translation>Pastas de backup</translation>
+        <translation>Pastas de origem</translation>
     </message>
     <message>
         <source>The port is not valid. Enter a number from 1 to 65535.</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>The server certificate has changed. Confirm it in the connection settings.</source>
-        <translation>O certificado do servidor foi alterado. Confirme-o nas configurações de conexão.</translation>
+        <translation>O certificado do servidor foi alterado. Confirme-o nos ajustes de conexão.</translation>
     </message>
     <message>
         <source>March</source>
@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>The backup folder could not be found. Put it back or remove it from the backup task.</source>
-        <translation>Não foi possível encontrar a pasta de backup. Coloque-a de volta no lugar ou remova-a da tarefa de backup.</translation>
+        <translation>Não foi possível encontrar a pasta de origem. Coloque-a de volta no lugar ou remova-a da tarefa de backup.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>The server certificate could not be verified. Check the settings or ask your administrator.</source>
-        <translation>Não foi possível verificar o certificado do servidor. Verifique as configurações ou consulte o administrador.</translation>
+        <translation>Não foi possível verificar o certificado do servidor. Verifique os ajustes ou consulte o administrador.</translation>
     </message>
     <message>
         <source>How to set up Lumaris Backup</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>The drive of the backup folder is not connected. Connect it and try again.</source>
-        <translation>A unidade da pasta de backup não está conectada. Conecte-a e tente novamente.</translation>
+        <translation>A unidade da pasta de origem não está conectada. Conecte-a e tente novamente.</translation>
     </message>
     <message>
         <source>Continue anyway</source>
@@ -869,7 +869,7 @@
     </message>
     <message>
         <source>The server rejected the request. Check your settings and try again.</source>
-        <translation>O servidor recusou a solicitação. Verifique as configurações e tente novamente.</translation>
+        <translation>O servidor recusou a solicitação. Verifique os ajustes e tente novamente.</translation>
     </message>
     <message>
         <source>Calendar</source>
@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>This is not a valid backup folder. Choose a different folder.</source>
-        <translation>Esta não é uma pasta de backup válida. Escolha outra pasta.</translation>
+        <translation>Esta não é uma pasta de origem válida. Escolha outra pasta.</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Aplicando as configurações...</translation>
+        <translation>Aplicando os ajustes...</translation>
     </message>
     <message>
         <source>Any type</source>
@@ -949,7 +949,7 @@
     </message>
     <message>
         <source>The backup task could not be created. Check its settings and try again.</source>
-        <translation>Não foi possível criar a tarefa de backup. Verifique as configurações da tarefa e tente novamente.</translation>
+        <translation>Não foi possível criar a tarefa de backup. Verifique os ajustes da tarefa e tente novamente.</translation>
     </message>
     <message>
         <source>Pause</source>

@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Korvo on the server is too old. Ask your administrator to update it.</source>
-        <translation>A versão do Korvo no servidor é demasiado antiga. Peça ao administrador que o atualize.</translation>
+        <translation>A versão do Korvo no servidor é demasiado antiga. Peça ao administrador que a atualize.</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>Acerca do Lumaris Backup</translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Configurar as pastas de origem</translation>
+        <translation>Configurar as pastas para a cópia de segurança</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -885,7 +885,7 @@
     </message>
     <message>
         <source>Lumaris Backup is too old for the server. Update it and try again.</source>
-        <translation>A versão do Lumaris Backup é demasiado antiga para o servidor. Atualize-o e tente novamente.</translation>
+        <translation>A versão do Lumaris Backup é demasiado antiga para o servidor. Atualize-a e tente novamente.</translation>
     </message>
     <message>
         <source>Wednesday</source>

@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Another backup folder has this name. Choose a different folder.</source>
-        <translation>Папка резервного копирования с таким именем уже есть. Выберите другую папку.</translation>
+        <translation>Исходная папка с таким именем уже есть. Выберите другую папку.</translation>
     </message>
     <message>
         <source>Add a folder</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Настройка папок резервного копирования</translation>
+        <translation>Настройка папок для резервного копирования</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>The backup failed. Check the backup folders and try again.</source>
-        <translation>Не удалось выполнить резервное копирование. Проверьте папки резервного копирования и повторите попытку.</translation>
+        <translation>Не удалось выполнить резервное копирование. Проверьте исходные папки и повторите попытку.</translation>
     </message>
     <message>
         <source>Version</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>Files waiting to be backed up: %1</source>
-        <translation>Файлов в ожидании резервного копирования: %1</translation>
+        <translation>Файлов, ожидающих резервного копирования: %1</translation>
     </message>
     <message>
         <source>There were too many sign-in attempts. Try again in a few minutes.</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Lumaris Backup continuously backs up your folders to your Brix.</source>
-        <translation>Lumaris Backup непрерывно сохраняет резервные копии ваших папок на ваше устройство Brix.</translation>
+        <translation>Lumaris Backup непрерывно выполняет резервное копирование ваших папок на устройство Brix.</translation>
     </message>
     <message>
         <source>Choose the folders to back up and the shared folder for the backup.</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Backup folders</source>
-        <translation>Папки резервного копирования</translation>
+        <translation>Исходные папки</translation>
     </message>
     <message>
         <source>The port is not valid. Enter a number from 1 to 65535.</source>
@@ -661,11 +661,11 @@
     </message>
     <message>
         <source>The backup folder could not be found. Put it back or remove it from the backup task.</source>
-        <translation>Папка резервного копирования не найдена. Верните её на место или удалите из задачи резервного копирования.</translation>
+        <translation>Исходная папка не найдена. Верните её на место или уберите из задачи резервного копирования.</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation>Завершить Lumaris Backup</translation>
+        <translation>Выход</translation>
     </message>
     <message>
         <source>Next pages (%1)</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>The drive of the backup folder is not connected. Connect it and try again.</source>
-        <translation>Диск с папкой резервного копирования не подключён. Подключите его и повторите попытку.</translation>
+        <translation>Диск с исходной папкой не подключён. Подключите его и повторите попытку.</translation>
     </message>
     <message>
         <source>Continue anyway</source>

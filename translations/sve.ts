@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Konfigurera källmapparna</translation>
+        <translation>Konfigurera mapparna för säkerhetskopieringen</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Lumaris Backup is too old for this server. Do you want to update now?</source>
-        <translation>Den här versionen av Lumaris Backup är för gammal för servern. Vill du uppdatera nu?</translation>
+        <translation>Den här versionen av Lumaris Backup är för gammal för den här servern. Vill du uppdatera nu?</translation>
     </message>
     <message>
         <source>Resume</source>

@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Set up the backup folders</source>
-        <translation>Kaynak klasörleri ayarlayın</translation>
+        <translation>Yedekleme için klasörleri ayarlayın</translation>
     </message>
     <message>
         <source>Updating...</source>

@@ -1,51 +1,47 @@
 #include <cerrno>
 #include <cstring>
+#include <memory>
 
-#include "file-op.h"
-#include "stored-path.h"
-
-#define LOG_MODULE "file-op"
-#include "log-macros.h"
-
-static const ustring LOG_COMPONENT("file_op_debug");
+#include "file-op-internal.h"
 
 namespace {
 
-int TypeOfEntry(unsigned char type) {
-    switch (type) {
-        case DT_REG:
-            return FILE_TYPE_REGULAR;
-        case DT_DIR:
-            return FILE_TYPE_DIRECTORY;
-        case DT_LNK:
-            return FILE_TYPE_SYMLINK;
-        case DT_CHR:
-        case DT_BLK:
-            return FILE_TYPE_DEVICE;
-        case DT_FIFO:
-            return FILE_TYPE_FIFO;
-        case DT_SOCK:
-            return FILE_TYPE_SOCKET;
-        default:
-            return FILE_TYPE_NONE;
-    }
-}
+struct CloseFolder {
+    void operator()(DIR_HANDLE *handle) const { FSCloseDir(*handle); }
+};
 
 }  // namespace
 
-int FSOpenDir(const ustring &path, int flags, DIR_HANDLE &handle) {
-    const ustring stored = StoredPath(path);
-    DIR *const dir = opendir(stored.c_str());
+int file_op::OpenFolder(const Place &place, int flags, DIR_HANDLE &handle) {
+    DIR *const dir = opendir(place.system.c_str());
     if (dir == nullptr) {
-        const int error = errno;
-        MSG_ERROR("FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(),
-                  std::strerror(error));
+        MSG_ERROR("FSOpenDir: Failed to open directory '%s'. %s\n", place.asked.c_str(),
+                  std::strerror(errno));
         return -1;
     }
     handle.dir = dir;
-    handle.path = path;
+    handle.path = place.asked;
     handle.flags = flags;
     return 0;
+}
+
+int file_op::ListFolder(const Place &place, std::vector<DIR_ENTRY> &entries) {
+    DIR_HANDLE handle;
+    if (OpenFolder(place, 0, handle) != 0) {
+        return -1;
+    }
+    const std::unique_ptr<DIR_HANDLE, CloseFolder> closed_at_end(&handle);
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) == 1) {
+        if (entry.name != "." && entry.name != "..") {
+            entries.push_back(entry);
+        }
+    }
+    return 0;
+}
+
+int FSOpenDir(const ustring &path, int flags, DIR_HANDLE &handle) {
+    return file_op::OpenFolder(file_op::Place::Respelled(path), flags, handle);
 }
 
 int FSReadDir(DIR_HANDLE &handle, DIR_ENTRY &entry) {
@@ -54,12 +50,11 @@ int FSReadDir(DIR_HANDLE &handle, DIR_ENTRY &entry) {
     errno = 0;
     const dirent *const found = readdir(handle.dir);
     if (found == nullptr) {
-        const int error = errno;
-        if (error == 0) {
+        if (errno == 0) {
             return 0;
         }
         MSG_ERROR("FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(),
-                  std::strerror(error));
+                  std::strerror(errno));
         return -1;
     }
     FILE_INFO info;
@@ -73,7 +68,7 @@ int FSReadDir(DIR_HANDLE &handle, DIR_ENTRY &entry) {
     entry.mtime = info.mtime;
     entry.size = info.size;
     entry.name = static_cast<const char *>(found->d_name);
-    entry.type = TypeOfEntry(found->d_type);
+    entry.type = file_op::TypeOfMode(static_cast<mode_t>(DTTOIF(found->d_type)));
     return 1;
 }
 

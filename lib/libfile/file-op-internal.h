@@ -1,27 +1,64 @@
 #pragma once
 
-#include "file-op.h"
+#include <sys/types.h>
 
-// The steps of the public operations for a path that is already in its stored spelling: those
-// operations respell their arguments once, and walks build on names that the file system listed.
+#include <vector>
+
+#include "file-op.h"
+#include "log-macros.h"
+
+// What the files of this library share. The log macros expect these two names.
+
+#define LOG_MODULE "file-op"
+inline const ustring LOG_COMPONENT("file_op_debug");
 
 namespace file_op {
 
-/// GetFileInfo: system calls use `stored`, the spelling under which they reach `path`.
-int Describe(const ustring &path, const ustring &stored, FILE_INFO &info);
-/// FSStat, likewise.
-int Stat(const ustring &path, const ustring &stored, FILE_INFO &info, bool exact);
+/// A path in two spellings: the one asked for, which messages name, and the one for system calls.
+struct Place {
+    ustring asked;
+    ustring system;
 
-/// A folder that a walk has described, for the entries listed in it.
-struct Folder {
-    ustring composed;  // its path as the walk builds it, composed (NFC)
-    ustring real;      // its stored path, composed (NFC)
+    /// Not respelled yet. Describe does that on the way; who describes nothing calls Respelled.
+    explicit Place(const ustring &path) : asked(path), system(path) {}
+    Place(const ustring &asked_path, const ustring &system_path)
+        : asked(asked_path), system(system_path) {}
+
+    static Place Respelled(const ustring &path);
+    /// An entry that the folder lists under this name.
+    Place Child(const ustring &name) const;
 };
-/// Describe for an entry whose name and kind were just listed: says and fails the same, but asks
-/// the system nothing, since the stored path is that of the folder plus the name.
-int DescribeListed(const Folder &folder, const char *name);
 
-int CopyFile(const ustring &src, const ustring &dst, bool remove_source);
-int MakeFolder(const ustring &path, bool recursive);
+/// The FILE_TYPE_... of a mode word, NONE for kinds that have no number.
+int TypeOfMode(mode_t mode);
+
+/// GetFileInfo; respells the place. `stored` becomes the real path before it is composed.
+int Describe(Place &place, FILE_INFO &info, ustring &stored);
+int Describe(Place &place, FILE_INFO &info);
+/// FSStat, likewise.
+int Stat(Place &place, FILE_INFO &info, bool exact);
+
+/// A folder that a walk has described.
+struct Folder {
+    ustring asked;   // composed (NFC)
+    ustring real;    // the real path, composed (NFC)
+    ustring stored;  // the real path as the file system stores it
+};
+/// Describe for an entry other than a folder that was just listed: writes the same messages and
+/// fails in the same cases, but asks the system nothing, since the real path of the entry is that
+/// of its folder and its name. So a removal makes one call per file.
+int DescribeListed(const Folder &folder, const ustring &name);
+
+/// FSOpenDir for a place that has been respelled.
+int OpenFolder(const Place &place, int flags, DIR_HANDLE &handle);
+/// Lists all entries but "." and "..", and closes the stream again: so a walk holds no descriptor
+/// while it goes deeper, and none reads a folder that changes beneath it. A read error counts as
+/// the end. Returns 0, or -1 when the folder does not open.
+int ListFolder(const Place &place, std::vector<DIR_ENTRY> &entries);
+
+/// FSCopy for places that have been respelled.
+int CopyFile(const Place &src, const Place &dst, bool remove_source);
+/// FSMKDir; respells the place.
+int MakeFolder(Place &place, bool recursive);
 
 }  // namespace file_op

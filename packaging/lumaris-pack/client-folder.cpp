@@ -82,7 +82,7 @@ int Rank(const std::string &name) {
 }
 
 void CheckClientFiles(ClientFolder &folder) {
-    for (const std::string name : {kClientExecutable, kClientInfo}) {
+    for (const std::string &name : {std::string(kClientExecutable), kClientInfo}) {
         const auto entry =
             std::find_if(folder.entries.begin(), folder.entries.end(),
                          [&name](const ClientEntry &candidate) { return candidate.name == name; });

@@ -52,8 +52,8 @@ void AddOptions(QCommandLineParser &parser) {
     add("minor", "N", "Minor version.");
     add("build", "N", "Build number; the launcher installs a package with a greater one.");
     add("icon-overlay", "N", "Version of the icon overlay (1).", "1");
-    add("format", "FORMAT", "zip (default), gnutar (default with --filter) or pax.");
-    add("filter", "FILTER", "none, gzip, zstd or xz (default of gnutar and pax).");
+    add("format", "FORMAT", "gnutar (default) or zip.");
+    add("filter", "FILTER", "zstd (default), xz or none; of gnutar only.");
     add("level", "N", "Compression level of the filter, or of zip.");
     add("verify", "FILE", "List what speaks against the package FILE.");
     parser.addPositionalArgument(QStringLiteral("Client.app"), QStringLiteral("Client bundle."));
@@ -92,16 +92,13 @@ PackageOptions ReadOptions(const QCommandLineParser &parser) {
     const auto value = [&parser](const char *name) {
         return parser.value(QLatin1String(name)).toStdString();
     };
-    // The launcher counts the entries before it installs them: zip has a directory for that, and
-    // checksums of the content that the archive library looks at.
-    const std::string initial_format = value("filter").empty() ? "zip" : "gnutar";
-    const std::string format_name = value("format").empty() ? initial_format : value("format");
+    const std::string format_name = value("format").empty() ? "gnutar" : value("format");
     const PackageCoding *format = FindFormat(format_name);
     if (format == nullptr) {
         throw UsageError("there is no format " + Quoted(format_name));
     }
-    // The only filter whose content has a checksum that the archive library looks at.
-    const std::string initial_filter = format->Compresses() ? "none" : "xz";
+    // Small, read quickly, and its checksum covers names and permissions as well as content.
+    const std::string initial_filter = format->Compresses() ? "none" : "zstd";
     const std::string name = value("filter").empty() ? initial_filter : value("filter");
     const PackageCoding *filter = FindFilter(name);
     if (filter == nullptr) {
@@ -165,7 +162,12 @@ ExitStatus Verify(const QCommandLineParser &parser) {
     if (!report.problems.empty()) {
         return kFailure;
     }
-    std::printf("%llu entries\n", static_cast<unsigned long long>(report.entries));
+    const char *const protection =
+        report.protection == Protection::kEverything ? "everything is under a checksum"
+        : report.protection == Protection::kContents
+            ? "contents are under checksums, names, types and permissions are not"
+            : "nothing is under a checksum";
+    std::printf("%llu entries; %s\n", static_cast<unsigned long long>(report.entries), protection);
     return kSuccess;
 }
 

@@ -64,7 +64,7 @@ void FinishFile(UniqueFd file, const std::string &name) {
     }
 }
 
-void WriteText(int fd, const std::string &text, const std::string &name) {
+void WriteText(int fd, std::string_view text, const std::string &name) {
     std::size_t done = 0;
     while (done < text.size()) {
         const ssize_t n = write(fd, text.data() + done, text.size() - done);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "unique-fd.h"
 
@@ -30,4 +31,4 @@ private:
 void FinishFile(UniqueFd file, const std::string &name);
 
 /// Writes all of `text`; `name` is for the error message.
-void WriteText(int fd, const std::string &text, const std::string &name);
+void WriteText(int fd, std::string_view text, const std::string &name);

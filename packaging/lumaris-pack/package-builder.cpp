@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "client-layout.h"
 #include "output-folder.h"
 #include "package-error.h"
 #include "package-rules.h"
@@ -11,8 +12,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr char kPackageFolder[] = "package";
-constexpr char kPackageFile[] = "package/lumaris.wpk";
-constexpr char kInfoFile[] = "INFO";
 
 // An output inside the bundle would make the next package another one.
 void RequireOutside(const BuildRequest &request) {

@@ -6,11 +6,12 @@
 #include <string>
 #include <vector>
 
-/// The launcher starts an upgrade when the executable is missing or the build in INFO is old. Both
-/// come last in a package, so that an interrupted extraction is seen and repeated at the next
-/// start.
-inline constexpr char kClientExecutable[] = "Contents/MacOS/lumaris-backup-ui";
-inline constexpr char kClientInfo[] = "Contents/Resources/INFO";
+#include "client-layout.h"
+
+/// The version file inside the client bundle. It comes last in a package, and the executable
+/// before it: the launcher starts an upgrade when the executable is missing or the build in INFO is
+/// old, so that an interrupted extraction is seen and repeated at the next start.
+inline const std::string kClientInfo = std::string(kResources) + "/" + kInfoFile;
 
 /// `name` in quotes, with control bytes and malformed UTF-8 escaped: one readable line.
 std::string Quoted(const std::string &name);

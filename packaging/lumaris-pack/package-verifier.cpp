@@ -2,11 +2,15 @@
 
 #include <sys/stat.h>
 
+#include <QByteArray>
+#include <array>
+#include <fstream>
 #include <map>
 #include <new>
 #include <utility>
 
 #include "archive-handle.h"
+#include "info-file.h"
 #include "package-rules.h"
 
 namespace {
@@ -14,17 +18,61 @@ namespace {
 // The launcher's.
 constexpr std::size_t kReadBlockSize = 10240;
 
+using SupportFormats = int (*)(archive *);
+
+/// A reader of the file at `path` for these formats; `open` says whether it could be opened.
+ArchiveReader OpenReader(const std::string &path, SupportFormats formats, bool &open) {
+    ArchiveReader reader(archive_read_new());
+    if (!reader) {
+        throw std::bad_alloc();
+    }
+    archive_read_support_filter_all(reader.get());
+    formats(reader.get());
+    open = archive_read_open_filename(reader.get(), path.c_str(), kReadBlockSize) == ARCHIVE_OK;
+    return reader;
+}
+
+/// Reads all entries and data. Returns how many entries there are, and why that fails in `problem`.
+std::uint64_t ReadToEnd(const std::string &path, SupportFormats formats, std::string &problem) {
+    bool open = false;
+    const ArchiveReader reader = OpenReader(path, formats, open);
+    archive_entry *entry = nullptr;
+    std::uint64_t entries = 0;
+    int status = open ? ARCHIVE_OK : ARCHIVE_FATAL;
+    while (status == ARCHIVE_OK) {
+        status = archive_read_next_header(reader.get(), &entry);
+        if (status == ARCHIVE_OK || status == ARCHIVE_WARN) {
+            ++entries;
+            status = archive_read_data_skip(reader.get());
+        }
+    }
+    if (status != ARCHIVE_EOF) {
+        problem = ArchiveErrorText(reader.get());
+    }
+    return entries;
+}
+
+/// Of the first frame or stream, by its header (RFC 8878, the .xz file format). Packages have one.
+Protection ProtectionOf(const std::string &path, archive *reader) {
+    if ((archive_format(reader) & ARCHIVE_FORMAT_BASE_MASK) == ARCHIVE_FORMAT_ZIP) {
+        return Protection::kContents;
+    }
+    std::array<unsigned char, 8> head = {};
+    std::ifstream(path, std::ios::binary)
+        .read(reinterpret_cast<char *>(head.data()), static_cast<std::streamsize>(head.size()));
+    constexpr unsigned kFrameChecksum = 4;
+    constexpr unsigned kCheckType = 15;
+    const int filter = archive_filter_code(reader, 0);
+    const bool covered = filter == ARCHIVE_FILTER_GZIP || filter == ARCHIVE_FILTER_BZIP2 ||
+                         (filter == ARCHIVE_FILTER_ZSTD && (head[4] & kFrameChecksum) != 0) ||
+                         (filter == ARCHIVE_FILTER_XZ && (head[7] & kCheckType) != 0);
+    return covered ? Protection::kEverything : Protection::kNone;
+}
+
 class Verifier {
 public:
-    explicit Verifier(const std::string &path) : m_archive(archive_read_new()) {
-        if (!m_archive) {
-            throw std::bad_alloc();
-        }
-        archive_read_support_filter_all(m_archive.get());
-        archive_read_support_format_all(m_archive.get());
-        m_open =
-            archive_read_open_filename(m_archive.get(), path.c_str(), kReadBlockSize) == ARCHIVE_OK;
-    }
+    explicit Verifier(const std::string &path)
+        : m_path(path), m_archive(OpenReader(path, archive_read_support_format_all, m_open)) {}
 
     PackageReport Run() {
         if (!m_open) {
@@ -36,6 +84,7 @@ public:
         m_links.Check(m_report.problems);
         if (m_complete) {
             CheckEnd();
+            CheckRest();
         }
         return m_report;
     }
@@ -118,8 +167,12 @@ private:
         std::size_t size = 0;
         la_int64_t offset = 0;
         int status = ARCHIVE_OK;
-        while (status == ARCHIVE_OK) {
-            status = archive_read_data_block(m_archive.get(), &block, &size, &offset);
+        m_data.clear();
+        while ((status = archive_read_data_block(m_archive.get(), &block, &size, &offset)) ==
+               ARCHIVE_OK) {
+            if (m_last == kClientInfo) {
+                m_data.append(static_cast<const char *>(block), static_cast<int>(size));
+            }
         }
         if (status == ARCHIVE_EOF) {
             return true;
@@ -135,13 +188,37 @@ private:
         if (m_before_last != kClientExecutable) {
             Refuse("the last entry but one is not " + Quoted(kClientExecutable));
         }
-        for (const std::string name : {kClientExecutable, kClientInfo}) {
+        for (const std::string &name : {std::string(kClientExecutable), kClientInfo}) {
             const auto found = m_modes.find(name);
             const std::string problem =
                 found == m_modes.end() ? "is missing" : ClientFileProblem(name, found->second);
             if (!problem.empty()) {
                 Refuse(Quoted(name) + " " + problem);
             }
+        }
+    }
+
+    // What the launcher does not look at, though it shows that the package was cut or damaged.
+    void CheckRest() {
+        std::string problem;
+        m_report.protection = ProtectionOf(m_path, m_archive.get());
+        if (m_report.protection == Protection::kContents) {
+            // Without its directory a zip is read entry by entry, which most programs leave
+            // without types and permissions.
+            if (ReadToEnd(m_path, archive_read_support_format_zip_seekable, problem) !=
+                    m_report.entries ||
+                !problem.empty()) {
+                Refuse("the directory at its end is damaged");
+            }
+        } else {
+            ReadToEnd(m_path, archive_read_support_format_raw, problem);
+            if (!problem.empty()) {
+                Refuse("cannot be read behind the last entry: " + problem);
+            }
+        }
+        InfoTexts texts;
+        if (ParseInfo(m_data, texts) != 0) {
+            Refuse(Quoted(kClientInfo) + " holds a serialized object");
         }
     }
 
@@ -158,8 +235,10 @@ private:
         }
     }
 
-    ArchiveReader m_archive;
+    const std::string m_path;
     bool m_open = false;
+    ArchiveReader m_archive;
+    QByteArray m_data;  // of the last entry, when that is INFO
     bool m_complete = false;
     PackageReport m_report;
     LinkTable m_links;

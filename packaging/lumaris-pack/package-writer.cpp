@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <exception>
 #include <iterator>
+#include <memory>
 #include <new>
 #include <vector>
 
@@ -13,20 +15,19 @@
 #include "package-error.h"
 #include "package-rules.h"
 #include "unique-fd.h"
+#include "zstd-stream.h"
 
 namespace {
 
 constexpr PackageCoding kFormats[] = {
     {"gnutar", ARCHIVE_FORMAT_TAR_GNUTAR, 0, 0, 0},
-    {"pax", ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE, 0, 0, 0},
     {"zip", ARCHIVE_FORMAT_ZIP, 1, 6, 9},
 };
 
 constexpr PackageCoding kFilters[] = {
     {"none", ARCHIVE_FILTER_NONE, 0, 0, 0},
-    {"gzip", ARCHIVE_FILTER_GZIP, 1, 9, 9},
     {"xz", ARCHIVE_FILTER_XZ, 0, 6, 9},
-    {"zstd", ARCHIVE_FILTER_ZSTD, 1, 19, 22},
+    {"zstd", ARCHIVE_FILTER_ZSTD, 1, 9, 19},
 };
 
 constexpr std::size_t kBlockSize = std::size_t{128} * 1024;
@@ -54,46 +55,64 @@ public:
 
     void Write(int fd) {
         Configure();
-        Check(archive_write_open_fd(m_archive.get(), fd), "cannot write the package");
+        Check(Open(fd), "cannot write the package");
         for (const ClientEntry &entry : m_client.entries) {
             Report(0);
             WriteEntry(entry);
         }
         Check(archive_write_close(m_archive.get()), "cannot write the package");
+        if (m_compressor) {
+            m_compressor->Finish();
+        }
     }
 
 private:
+    // Zstandard is compressed here, not in the archive library, for the checksum.
+    bool CompressesItself() const { return m_options.filter->code == ARCHIVE_FILTER_ZSTD; }
+
+    int Open(int fd) {
+        if (!CompressesItself()) {
+            return archive_write_open_fd(m_archive.get(), fd);
+        }
+        m_compressor = std::make_unique<ZstdStream>(fd, m_options.level);
+        return archive_write_open2(m_archive.get(), this, nullptr, Compress, nullptr, nullptr);
+    }
+
+    // Called by the library, which knows no exceptions: Check() throws what is kept.
+    static la_ssize_t Compress(archive *, void *self, const void *data, std::size_t size) {
+        auto *const writer = static_cast<Writer *>(self);
+        try {
+            writer->m_compressor->Write(data, size);
+            return static_cast<la_ssize_t>(size);
+        } catch (...) {
+            writer->m_failure = std::current_exception();
+            return -1;
+        }
+    }
+
     // A warning of the library means that an entry is not stored as it is: never good enough.
     void Check(int status, const std::string &action) {
+        if (m_failure) {
+            std::rethrow_exception(m_failure);
+        }
         if (status != ARCHIVE_OK) {
             throw PackageError(action + ": " + ArchiveErrorText(m_archive.get()));
         }
     }
 
     void Configure() {
-        archive *const a = m_archive.get();
         const PackageCoding &format = *m_options.format;
-        const PackageCoding &filter = *m_options.filter;
-        Check(archive_write_set_format(a, format.code), "cannot use this format");
-        Check(archive_write_add_filter(a, filter.code), "cannot use this filter");
+        const int filter = CompressesItself() ? ARCHIVE_FILTER_NONE : m_options.filter->code;
+        Check(archive_write_set_format(m_archive.get(), format.code), "cannot use this format");
+        Check(archive_write_add_filter(m_archive.get(), filter), "cannot use this filter");
         const std::string level = std::to_string(m_options.level);
-        if (format.Compresses()) {
-            SetFormatOption("compression-level", level.c_str());
-        }
-        if (filter.Compresses()) {
+        if (filter == ARCHIVE_FILTER_XZ) {
             SetFilterOption("compression-level", level.c_str());
-        }
-        if (filter.code == ARCHIVE_FILTER_GZIP) {
-            SetFilterOption("timestamp", nullptr);
-        }
-        if (filter.code == ARCHIVE_FILTER_XZ) {
             // How the work is cut into blocks depends on the number of threads.
             SetFilterOption("threads", "1");
         }
-        if (format.code == ARCHIVE_FORMAT_TAR_PAX_INTERCHANGE) {
-            SetFormatOption("hdrcharset", "BINARY");
-        }
         if (format.code == ARCHIVE_FORMAT_ZIP) {
+            SetFormatOption("compression-level", level.c_str());
             // The directory at the end holds types and permissions; this repeats them beside each
             // entry. When that directory is cut off, the reader goes by the entries alone and would
             // make every link a file and the client no program, without a word.
@@ -182,6 +201,9 @@ private:
 
     void WriteBlock(const ClientEntry &entry, std::size_t n) {
         const la_ssize_t written = archive_write_data(m_archive.get(), m_block.data(), n);
+        if (m_failure) {
+            std::rethrow_exception(m_failure);
+        }
         if (written != static_cast<la_ssize_t>(n)) {
             throw PackageError("cannot write the package at " + Quoted(entry.name) + ": " +
                                ArchiveErrorText(m_archive.get()));
@@ -201,7 +223,9 @@ private:
     const std::uint64_t m_total;
     std::uint64_t m_done = 0;
     std::vector<char> m_block = std::vector<char>(kBlockSize);
-    ArchiveWriter m_archive;
+    std::unique_ptr<ZstdStream> m_compressor;
+    std::exception_ptr m_failure;
+    ArchiveWriter m_archive;  // writes through the two before it, also while it is destroyed
 };
 
 }  // namespace

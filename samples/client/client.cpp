@@ -16,11 +16,13 @@ namespace {
 /// client nor a reused process id counts as running. -1 when another client holds it.
 int ClaimPidFile(const std::string &pidFile) {
     const int file = open(pidFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-    if (file < 0 || flock(file, LOCK_EX | LOCK_NB) != 0)
+    if (file < 0 || flock(file, LOCK_EX | LOCK_NB) != 0) {
         return -1;
+    }
     const std::string text = "pid=" + std::to_string(getpid()) + "\n";
-    if (ftruncate(file, 0) != 0 || write(file, text.data(), text.size()) < 0)
+    if (ftruncate(file, 0) != 0 || write(file, text.data(), text.size()) < 0) {
         return -1;
+    }
     return file;
 }
 
@@ -35,8 +37,9 @@ void Note(const std::string &logFile, const char *what) {
 
 int main() {
     const char *home = getenv("HOME");
-    if (home == nullptr)
+    if (home == nullptr) {
         return 1;
+    }
     const std::string folder = std::string(home) + "/.LumarisBackup";
     const std::string pidFile = folder + "/ui.pid";
     const std::string logFile = folder + "/log/client.log";
@@ -57,8 +60,9 @@ int main() {
     int received = 0;
     for (;;) {
         sigwait(&signals, &received);
-        if (!ignore)
+        if (!ignore) {
             break;
+        }
     }
     Note(logFile, "asked to end,");
     remove(pidFile.c_str());

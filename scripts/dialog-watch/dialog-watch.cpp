@@ -64,14 +64,17 @@ int FilledPercent(const Screen &screen) {
     int longest = 100, percent = -1;
     for (int y = 0; y < screen.Height(); ++y) {
         int x = 0;
-        while (x < screen.Width() && !IsFilled(screen.Pixel(x, y)))
+        while (x < screen.Width() && !IsFilled(screen.Pixel(x, y))) {
             ++x;
+        }
         int filled = x;
-        while (filled < screen.Width() && IsFilled(screen.Pixel(filled, y)))
+        while (filled < screen.Width() && IsFilled(screen.Pixel(filled, y))) {
             ++filled;
+        }
         int end = filled + 4;  // behind the edge of the filled part
-        while (end < screen.Width() && IsFree(screen.Pixel(end, y)))
+        while (end < screen.Width() && IsFree(screen.Pixel(end, y))) {
             ++end;
+        }
         if (end - x > longest) {
             longest = end - x;
             percent = (filled + 4 - x) * 100 / longest;
@@ -100,8 +103,9 @@ int main(int argc, char **argv) {
             screen.Save(argv[2]);
             saved = true;
         }
-        if (percent == last || percent < 0)
+        if (percent == last || percent < 0) {
             continue;
+        }
         last = percent;
         const auto passed = std::chrono::steady_clock::now() - start;
         printf("%lld %d\n",

@@ -4,7 +4,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
 #include <cstdlib>
 
 int qInitResources_texts();
@@ -20,9 +21,9 @@ std::string LanguageUnder(const char *locale, bool embedded = true) {
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         setenv("LC_ALL", locale, 1);
         unsetenv("LANGUAGE");
-        if (!embedded)
-            while (QFile::exists(QStringLiteral(":/enu.qm")))
-                qCleanupResources_texts();
+        while (!embedded && QFile::exists(QStringLiteral(":/enu.qm"))) {
+            qCleanupResources_texts();
+        }
         const QString code = TarnLocale::getDefaultLanguage();
         _exit(static_cast<int>(TarnLocale::getSupportedLanguages().indexOf(code)));
     }
@@ -37,41 +38,42 @@ TEST(TarnLocale, LanguageForLocale) {
     const struct {
         const char *locale, *code;
     } cases[] = {
-        {"en_US.UTF-8", "enu"}, {"zh_TW", "cht"},      {"zh_HK", "cht"},
-        {"zh_MO", "cht"},       {"zh_Hant_TW", "cht"}, {"zh_CN", "chs"},
-        {"zh_Hans_SG", "chs"},  {"zh", "chs"},         {"ja", "jpn"},
-        {"de_CH@euro", "deu"},  {"ko_KR", "krn"},      {"fr_CA", "fra"},
-        {"it_IT", "ita"},       {"es_419", "esn"},     {"pt_BR", "ptb"},
-        {"pt_PT", "ptg"},       {"pt_AO", "ptb"},      {"ru_RU.KOI8-R", "rus"},
-        {"da_DK", "dan"},       {"nb_NO", "nor"},      {"nn_NO", "nor"},
-        {"no_NO", "nor"},       {"sv_FI", "sve"},      {"nl_BE", "nld"},
-        {"pl_PL", "plk"},       {"hu_HU", "hun"},      {"tr_TR", "trk"},
-        {"cs_CZ", "csy"},       {"en_GB", "enu"},      {"zh_SG", "chs"},
-        {"zh_Hant_HK", "cht"},  {"zh_Hans_CN", "chs"}, {"de_AT", "deu"},
-        {"ja_JP", "jpn"},       {"es_MX", "esn"},      {"fr_CH", "fra"},
-        {"C", "enu"},           {"sv_SE", "sve"},      {"nl_NL", "nld"},
-        {"uk_UA", "enu"},       {"fi_FI", "enu"},      {"sr_Latn_RS", "enu"},
-        {"POSIX", "enu"},       {"nonsense", "enu"},
+        {"en_US.UTF-8", "enu"}, {"zh_TW", "cht"}, {"zh_Hant_HK", "cht"}, {"zh_MO", "cht"},
+        {"zh_Hans_SG", "chs"},  {"zh", "chs"},    {"ja", "jpn"},         {"de_CH@euro", "deu"},
+        {"ko_KR", "krn"},       {"fr_CA", "fra"}, {"it_IT", "ita"},      {"es_419", "esn"},
+        {"pt_BR", "ptb"},       {"pt_PT", "ptg"}, {"pt_AO", "ptb"},      {"ru_RU.KOI8-R", "rus"},
+        {"da_DK", "dan"},       {"nb_NO", "nor"}, {"nn_NO", "nor"},      {"sv_FI", "sve"},
+        {"nl_BE", "nld"},       {"pl_PL", "plk"}, {"hu_HU", "hun"},      {"tr_TR", "trk"},
+        {"cs_CZ", "csy"},       {"fi_FI", "enu"}, {"C", "enu"},          {"nonsense", "enu"},
     };
-    for (const auto &row : cases)
+    for (const auto &row : cases) {
         EXPECT_EQ(row.code, LanguageUnder(row.locale)) << row.locale;
+    }
     EXPECT_EQ("enu", LanguageUnder("de_DE", false));
+    // macOS gives a name without a country where Linux adds the likeliest.
+    EXPECT_EQ("ptg", TarnLocale::languageForLocale(QStringLiteral("pt")).toStdString());
+    EXPECT_EQ("nor", TarnLocale::languageForLocale(QStringLiteral("no")).toStdString());
 }
 
 TEST(TarnLocale, CodesAndCatalogues) {
+    qInitResources_texts();
     const QStringList codes = TarnLocale::getSupportedLanguages();
     ASSERT_EQ(20, codes.size());
     EXPECT_EQ("enu", codes.first().toStdString());
     EXPECT_EQ("ptg", TarnLocale::getLanguageAbbrByID(17).toStdString());
     EXPECT_TRUE(TarnLocale::getLanguageAbbrByID(20).isEmpty());
     EXPECT_TRUE(TarnLocale::getLanguageAbbrByID(-1).isEmpty());
-    QStringList files;
-    for (const QString &code : codes)
-        files += code + QStringLiteral(".qm");
-    files.sort();
-    EXPECT_EQ(files, QDir(QStringLiteral(":/")).entryList({QStringLiteral("*.qm")}));
-    for (const char *code : {"", "fin", "ENU"})
+    // Not sorted by QDir, which would settle the locale for the other test.
+    int catalogues = 0;
+    for (QDirIterator file(QStringLiteral(":/"), {QStringLiteral("*.qm")}); file.hasNext();) {
+        ++catalogues;
+        EXPECT_TRUE(codes.contains(QFileInfo(file.next()).baseName()))
+            << qPrintable(file.filePath());
+    }
+    EXPECT_EQ(20, catalogues);
+    for (const char *code : {"", "fin", "ENU"}) {
         EXPECT_FALSE(TarnLocale::isLanguageInstalled(QString::fromLatin1(code))) << code;
+    }
 }
 
 }  // namespace

@@ -26,6 +26,13 @@ clean_up() {
 }
 trap clean_up EXIT
 
+# Nobody ships the demo client by accident.
+if "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/out" >"$work/cpack.log" 2>&1; then
+    fail "packaged without a client to ship"
+fi
+grep -q 'configure with -DLUMARIS_PACKAGE=FOLDER' <(tr -s ' \n' ' ' <"$work/cpack.log") ||
+    fail "no word of the client to ship: $(cat "$work/cpack.log")"
+export LUMARIS_PACKAGE=$build/packaging/bundle/package
 "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/out" >"$work/cpack.log" 2>&1 ||
     fail "no package: $(cat "$work/cpack.log")"
 deb=$(echo "$work"/out/*.deb)

@@ -34,8 +34,9 @@ using Writer = std::unique_ptr<struct archive, FreeWriter>;
 /// libarchive gives no text where the failure was found by another handle.
 const char *ErrorText(struct archive *a, struct archive *other = nullptr) {
     const char *text = archive_error_string(a);
-    if (text == nullptr && other != nullptr)
+    if (text == nullptr && other != nullptr) {
         text = archive_error_string(other);
+    }
     return text != nullptr ? text : "unknown error";
 }
 
@@ -86,14 +87,16 @@ int ExtractEntries(struct archive *reader, struct archive *writer, const ustring
     for (int index = 1;; ++index) {
         struct archive_entry *entry = nullptr;
         const int status = archive_read_next_header(reader, &entry);
-        if (status == ARCHIVE_EOF)
+        if (status == ARCHIVE_EOF) {
             return 0;
+        }
         if (status != ARCHIVE_OK) {
             MSG_ERROR("archive_read_next_header failed: '%s'\n", ErrorText(reader));
             return -1;
         }
-        if (ExtractEntry(reader, writer, entry, dest, total, index) != 0)
+        if (ExtractEntry(reader, writer, entry, dest, total, index) != 0) {
             return -1;
+        }
     }
 }
 
@@ -105,7 +108,7 @@ int Extractor::Extract() {
         return -1;
     }
     MSG_DEBUG("decompress from '%s' to '%s'\n", m_src_path.c_str(), m_dest_path.c_str());
-    Notify_Adapter::GetInstance().UpdateDialogText(StrTable::LoadStr(218));
+    Notify_Adapter::GetInstance().UpdateDialogText(StrTable::LoadStr(StrTable::kPreparingText));
 
     const int total = Count();
     if (total < 1) {
@@ -133,8 +136,9 @@ int Extractor::Count() {
         return -1;
     }
     const Reader reader = OpenForListing(m_src_path);
-    if (!reader)
+    if (!reader) {
         return -1;
+    }
     int count = 0;
     struct archive_entry *entry = nullptr;
     while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
@@ -150,8 +154,9 @@ int Extractor::List() {
         return -1;
     }
     const Reader reader = OpenForListing(m_src_path);
-    if (!reader)
+    if (!reader) {
         return -1;
+    }
     struct archive_entry *entry = nullptr;
     while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
         const char *name = archive_entry_pathname(entry);
@@ -173,8 +178,9 @@ int Extractor::copy_data(struct archive *in, struct archive *out) {
         size_t size = 0;
         int64_t offset = 0;
         const int status = archive_read_data_block(in, &buffer, &size, &offset);
-        if (status == ARCHIVE_EOF)
+        if (status == ARCHIVE_EOF) {
             return 0;
+        }
         if (status != ARCHIVE_OK) {
             MSG_ERROR("archive_read_data_block failed: '%s'\n", ErrorText(in));
             return -1;

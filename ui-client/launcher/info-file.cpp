@@ -1,6 +1,5 @@
 #include "info-file.h"
 
-#include <QByteArray>
 #include <QDataStream>
 #include <QFile>
 #include <QRegularExpression>
@@ -42,7 +41,7 @@ private:
         QDataStream out(&compiled, QIODevice::WriteOnly);
         out.writeRawData("qres", 4);
         out << quint32(1) << header << header + tree + names << header + tree;
-        out << quint32(0) << quint16(2) << quint32(1) << quint32(1);               // the folder
+        out << quint32(0) << quint16(2) << quint32(1) << quint32(1);                // the folder
         out << quint32(0) << quint16(0) << quint16(0) << quint16(1) << quint32(0);  // the file
         out << quint16(1) << quint32('I') << quint16('I');
         out << quint32(content.size());
@@ -109,13 +108,16 @@ bool HoldsObject(const QByteArray &text) {
 }  // namespace
 
 int ReadInfoFile(const QString &path, InfoTexts &texts) {
+    QFile file(path);
+    return ParseInfo(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(), texts);
+}
+
+int ParseInfo(const QByteArray &content, InfoTexts &texts) {
     texts = {};
-    QFile source(path);
-    const QByteArray text = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-    if (HoldsObject(text)) {
+    if (HoldsObject(content)) {
         return -1;
     }
-    const MemoryFile file(text);
+    const MemoryFile file(content);
     QSettings info(file.Path(), QSettings::IniFormat);
     info.beginGroup(QLatin1String(kVersionGroup));
     for (std::size_t i = 0; i < texts.size(); ++i) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <array>
 #include <optional>
@@ -17,3 +18,5 @@ using InfoTexts = std::array<std::optional<QString>, kVersionKeys.size()>;
 /// Returns 0, or -1 when a value of the group begins with a serialized object: the settings reader
 /// would rebuild it, and a damaged one ends the program there. `texts` is empty then. Any thread.
 int ReadInfoFile(const QString &path, InfoTexts &texts);
+/// The same for the bytes of a file.
+int ParseInfo(const QByteArray &content, InfoTexts &texts);

@@ -6,12 +6,12 @@
 /// exists.
 namespace InstallPaths {
 
-ustring Home();                // {home}
-ustring UserFolder();          // {home}/.LumarisBackup
-ustring UserBundle();          // {home}/.LumarisBackup/Lumaris.app
-ustring UserData();            // {home}/.LumarisBackup/data
-ustring ApplicationFolder();   // of the launcher's executable
-ustring LauncherBundle();      // the launcher's own bundle
-ustring LauncherResources();   // {launcher bundle}/Contents/Resources
+ustring Home();               // {home}
+ustring UserFolder();         // {home}/.LumarisBackup
+ustring UserBundle();         // {home}/.LumarisBackup/Lumaris.app
+ustring UserData();           // {home}/.LumarisBackup/data
+ustring ApplicationFolder();  // of the launcher's executable
+ustring LauncherBundle();     // the launcher's own bundle
+ustring LauncherResources();  // {launcher bundle}/Contents/Resources
 
 }  // namespace InstallPaths

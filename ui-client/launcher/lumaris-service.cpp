@@ -27,8 +27,9 @@ const int kBackupNames = 10;
 /// Name under which the bundle is kept during an upgrade: "_tmp", "_tmp1" to "_tmp9".
 ustring GetAppBackupDir(const ustring &app, int index) {
     const ustring backup = app + "_tmp";
-    if (index == 0)
+    if (index == 0) {
         return backup;
+    }
     char postfix[8];
     if (snprintf(postfix, sizeof(postfix), "%d", index) < 0) {
         MSG_ERROR("snprintf failed (continuing without postfix)");
@@ -56,8 +57,9 @@ void LoadVersion(const ustring &path,
 int BackupApp(const ustring &app, ustring &backup) {
     for (int index = 0; index < kBackupNames; ++index) {
         backup = GetAppBackupDir(app, index);
-        if (FSRename(app, backup, false) == 0)
+        if (FSRename(app, backup, false) == 0) {
             return index;
+        }
         MSG_ERROR("failed to backup app from '%s' -> '%s'\n", app.c_str(), backup.c_str());
     }
     MSG_ERROR("failed to backup app from '%s' -> '%s' at max retries, exiting\n", app.c_str(),
@@ -153,8 +155,9 @@ int Service::PrepareUserEnv() {
         MSG_WARNING("failed to write '%s' to disk: %s (%d)\n", app.c_str(), strerror(error), error);
     }
     MSG_INFO("user installation is ready, removing backup app\n");
-    for (int used = 0; used <= index; ++used)
+    for (int used = 0; used <= index; ++used) {
         FSRemove(GetAppBackupDir(app, used), false);
+    }
     return 0;
 }
 
@@ -189,8 +192,9 @@ int Service::FSCopyPath(const ustring &src, const ustring &dst) {
         MSG_ERROR("FSCopyPath: source path '%s' does not exist\n", src.c_str());
         return -1;
     }
-    if (info.type != FILE_TYPE_DIRECTORY)
+    if (info.type != FILE_TYPE_DIRECTORY) {
         return FSCopy(src, dst, false) == 0 ? 0 : -1;
+    }
 
     if (FSMKDir(dst, true) < 0) {
         MSG_ERROR("FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
@@ -204,8 +208,9 @@ int Service::FSCopyPath(const ustring &src, const ustring &dst) {
     int result = 0;
     DIR_ENTRY entry;
     while (result == 0 && FSReadDir(dir, entry) > 0) {
-        if (entry.name == "." || entry.name == "..")
+        if (entry.name == "." || entry.name == "..") {
             continue;
+        }
         const ustring from = src + "/" + entry.name;
         const ustring to = dst + "/" + entry.name;
         result = entry.type == FILE_TYPE_DIRECTORY ? FSCopyPath(from, to) : FSCopy(from, to, false);

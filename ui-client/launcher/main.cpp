@@ -36,15 +36,17 @@ void SetPluginPath(const char *executable) {
     QCoreApplication::setLibraryPaths({path});
     printf("lib path = '%s'\n", path.toUtf8().constData());
     fflush(stdout);
-    if (!QDir(path).exists())  // The toolkit ends the process when it finds no platform plug-in.
+    if (!QDir(path).exists()) {  // The toolkit ends the process when it finds no platform plug-in.
         MSG_ERROR("plug-in folder '%s' does not exist\n", path.toUtf8().constData());
+    }
 }
 
 void OpenLog() {
     const ustring levelFile = Service::GetRootLumarisInstallPath() + "/log/launcher.debug";
     const ustring logFolder = Service::GetUserLumarisInstallPath() + "/log";
-    if (!QDir().mkpath(ToQString(logFolder)))
+    if (!QDir().mkpath(ToQString(logFolder))) {
         return;  // Errors and warnings go to standard error then.
+    }
     Logger::Initialize(Logger::TYPE_FILE, logFolder + "/launcher.log", levelFile,
                        Logger::rotate_cnt);
 }
@@ -53,8 +55,9 @@ void OpenLog() {
 void InstallTranslation(QTranslator &translator) {
     const QString catalogue =
         QStringLiteral(":/") + TarnLocale::getDefaultLanguage() + QStringLiteral(".qm");
-    if (translator.load(catalogue) && !translator.isEmpty())
+    if (translator.load(catalogue) && !translator.isEmpty()) {
         QCoreApplication::installTranslator(&translator);
+    }
 }
 
 }  // namespace

@@ -9,15 +9,15 @@
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
     const QFont font(QStringLiteral("Arial"));
-    const QString icon = ToQString(InstallPaths::LauncherResources()) +
-                         QStringLiteral("/images/ico_72_lumaris.png");
+    const QString icon =
+        ToQString(InstallPaths::LauncherResources()) + QStringLiteral("/images/ico_72_lumaris.png");
 
-    setWindowTitle(StrTable::LoadStr(217));
+    setWindowTitle(StrTable::LoadStr(StrTable::kNameText));
     setWindowIcon(QIcon(icon));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setValue(0);
     setRange(0, 100);
-    setLabelText(StrTable::LoadStr(218));
+    setLabelText(StrTable::LoadStr(StrTable::kPreparingText));
     setFont(font);
     setFixedWidth(400);
     setModal(true);

@@ -37,10 +37,11 @@ void Worker::JoinThread() {
 void Worker::HandleServicce() {
     MSG_DEBUG("running\n");
     service->PreUpgrade();
-    if (service->IsNeedUpgrade())
+    if (service->IsNeedUpgrade()) {
         Upgrade();
-    else
+    } else {
         MSG_DEBUG("no need to upgrade\n");
+    }
     service->RemoveAgedFolders();
     service->PostUpgrade();
     MSG_DEBUG("done\n");
@@ -54,5 +55,5 @@ void Worker::Upgrade() {
         return;
     }
     Q_EMIT sigUpdateProgress(100, 100);
-    Q_EMIT sigSetLabelText(StrTable::LoadStr(39));
+    Q_EMIT sigSetLabelText(StrTable::LoadStr(StrTable::kReadyText));
 }

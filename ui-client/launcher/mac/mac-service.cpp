@@ -26,8 +26,9 @@ const int kStopAttempts = 5;  // one per second
 /// client: 0 and negative ids are process groups, our own among them.
 pid_t ClientPid(const ustring &text) {
     const long value = atol(text.c_str());
-    if (value <= 0 || value > std::numeric_limits<pid_t>::max() || value == getpid())
+    if (value <= 0 || value > std::numeric_limits<pid_t>::max() || value == getpid()) {
         return 0;
+    }
     return static_cast<pid_t>(value);
 }
 
@@ -39,13 +40,15 @@ int BuildNumber(const ustring &text) {
 void TerminateProcess(pid_t pid) {
     if (kill(pid, SIGTERM) != 0) {
         const int error = errno;
-        if (error == ESRCH)
+        if (error == ESRCH) {
             return;
+        }
         MSG_ERROR("kill: %s (%d)\n", strerror(error), error);
     }
     for (int attempt = 0; attempt < kStopAttempts; ++attempt) {
-        if (kill(pid, 0) != 0 && errno == ESRCH)
+        if (kill(pid, 0) != 0 && errno == ESRCH) {
             return;
+        }
         sleep(1);
     }
     kill(pid, SIGKILL);
@@ -77,8 +80,9 @@ void MacService::StopService() {
         return;
     }
     const pid_t pid = ClientPid(config["pid"]);
-    if (pid > 0)
+    if (pid > 0) {
         TerminateProcess(pid);
+    }
 }
 
 int MacService::HandlePackageUpgrade() {
@@ -90,8 +94,9 @@ int MacService::HandlePackageUpgrade() {
 }
 
 void MacService::PostUpgrade() {
-    if (LaunchPerUserBin() < 0)
+    if (LaunchPerUserBin() < 0) {
         MSG_ERROR("Failed to launch Lumaris UI\n");
+    }
 }
 
 void MacService::PreUpgrade() {
@@ -111,6 +116,8 @@ bool MacService::IsNeedUpgrade() {
 }
 
 bool MacService::PerUserBinPathExist() {
+    // Existence alone, without permissions: whether the client may be started is the desktop's to
+    // say. What cannot be looked at counts as missing, and is installed again.
     const ustring client = m_user_app_path + "/" + kClientExecutable;
     return access(client.c_str(), F_OK) == 0;
 }
@@ -118,8 +125,9 @@ bool MacService::PerUserBinPathExist() {
 int MacService::LaunchPerUserBin() {
     const ustring path = GetUserLumarisAppInstallPath();
     const QString app = ToQString(path);
-    if (LaunchServices::UnregisterBundle(app) != 0)
+    if (LaunchServices::UnregisterBundle(app) != 0) {
         MSG_ERROR("Cannot unregister bundle, %s", path.c_str());
+    }
     return LaunchServices::OpenBundle(app) ? 0 : -1;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Declares what the launcher calls, so that its files for the other system can be parsed here.
+// Declares what the launcher calls of Core Services, for scripts/macos.sh.
 
 #include <cstdint>
 

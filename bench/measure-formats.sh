@@ -1,21 +1,22 @@
 #!/usr/bin/env bash
 # Compares formats and compression of the package on one bundle, side by side: size, the time to
-# pack, to count and to install it, that time over what bsdtar takes for the same file, and how many
-# of 25 single flipped bits are noticed. Prints the table of docs/packages.md.
-# usage: packaging/measure-formats.sh [BUILD_FOLDER [ROUNDS]]     default: build 5
+# pack, to count and to install it, and that time over what bsdtar takes for the same file. Then it
+# damages packages of a small client, bit by bit and cut by cut, and counts what is installed.
+# Prints the tables of docs/packages.md.
+# usage: bench/measure-formats.sh [BUILD_FOLDER [ROUNDS]]     default: build-release 5
 set -euo pipefail
 export LC_ALL=C
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-build=$(realpath "${1:-build}") rounds=${2:-5}
+build=$(realpath "${1:-build-release}") rounds=${2:-5}
 readonly MIN_BYTES=$((80 * 1000 * 1000))
-readonly FLIPS=25
-readonly CODINGS=("--format zip --level 6" "--format zip --level 1" "--filter xz"
-                  "--filter zstd --level 3" "--filter zstd --level 12" "--filter none")
+readonly FLIPS=1000 CUTS=1000
+readonly CODINGS=("--filter zstd" "--filter zstd --level 3" "--filter zstd --level 19"
+                  "--format zip" "--filter xz" "--filter none")
 
 command -v bsdtar >/dev/null || { echo "measure-formats: install libarchive-tools" >&2; exit 1; }
 
-cmake --build "$build" --target lumaris-pack lumaris-backup-ui extract-timing >/dev/null
+cmake --build "$build" --target lumaris-pack lumaris-backup-ui extract-timing damage >/dev/null
 pack=$build/packaging/lumaris-pack/lumaris-pack timing=$build/bench/extract-timing
 work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-measure.XXXXXX")
 trap 'rm -rf "$work"' EXIT
@@ -45,30 +46,12 @@ seconds() { # seconds COMMAND...: how long it takes
     awk -v from="$start" -v to="$EPOCHREALTIME" 'BEGIN { print to - from }'
 }
 
-# noticed PACKAGE: how many flipped bits, spread over the whole file, make the installation fail
-noticed() {
-    local i at byte bytes count=0
-    bytes=$(stat -c %s "$1")
-    for ((i = 1; i <= FLIPS; ++i)); do
-        at=$((bytes * i / (FLIPS + 1)))
-        byte=$(od -An -tu1 -j "$at" -N 1 "$1")
-        cp "$1" "$work/flipped"
-        # shellcheck disable=SC2059 # the format is the byte
-        printf "\\x$(printf %x $((byte ^ 1 << i % 8)))" |
-            dd of="$work/flipped" bs=1 seek="$at" conv=notrunc status=none
-        rm -rf "$work/installed"
-        "$timing" "$work/flipped" "$work/installed" >/dev/null 2>&1 || ((++count))
-    done
-    echo "$count"
-}
-
 for i in "${!CODINGS[@]}"; do
     # shellcheck disable=SC2206 # several options
     options=(${CODINGS[i]})
     packing[i]=$(seconds "$pack" --build 121 --major 2 --minor 5 "${options[@]}" "$app" "$work/$i")
     "$timing" "$work/$i/package/lumaris.wpk" "$work/installed" >/dev/null
     diff -r --no-dereference "$app" "$work/installed"
-    found[i]=$(noticed "$work/$i/package/lumaris.wpk")
 done
 
 # One round takes every coding in turn, so that other load on the machine meets all of them.
@@ -79,11 +62,11 @@ for ((round = 1; round <= rounds; ++round)); do
         mkdir "$work/peer"
         read -r count install < <("$timing" "$package" "$work/installed")
         peer=$(seconds bsdtar -C "$work/peer" -xf "$package")
-        echo "${CODINGS[i]};$(stat -c %s "$package");${packing[i]};$count;$install;$peer;${found[i]}"
+        echo "${CODINGS[i]};$(stat -c %s "$package");${packing[i]};$count;$install;$peer"
     done
 done > "$work/results"
 
-awk -F';' -v flips="$FLIPS" '
+awk -F';' '
     function median(list,    n, i, j, t, v) {
         n = split(list, v, " ")
         for (i = 2; i <= n; ++i)
@@ -92,18 +75,50 @@ awk -F';' -v flips="$FLIPS" '
     }
     !($1 in size) { keys[++rows] = $1 }
     {
-        size[$1] = $2; packing[$1] = $3; found[$1] = $7
+        size[$1] = $2; packing[$1] = $3
         counts[$1] = counts[$1] " " $4
         installs[$1] = installs[$1] " " $5
         ratios[$1] = ratios[$1] " " $5 / $6
     }
     END {
-        print "| options | MB | pack, s | count, s | count and extract, s | over `bsdtar -xf` | noticed |"
-        print "|---|---|---|---|---|---|---|"
+        print "| options | MB | pack, s | count, s | count and extract, s | over `bsdtar -xf` |"
+        print "|---|---|---|---|---|---|"
         for (i = 1; i <= rows; ++i) {
             key = keys[i]
-            printf "| `%s` | %.1f | %.1f | %.2f | %.2f | %.2f | %d of %d |\n", key, size[key] / 1e6,
-                   packing[key], median(counts[key]), median(installs[key]), median(ratios[key]),
-                   found[key], flips
+            printf "| `%s` | %.1f | %.1f | %.2f | %.2f | %.2f |\n", key, size[key] / 1e6,
+                   packing[key], median(counts[key]), median(installs[key]), median(ratios[key])
         }
     }' "$work/results"
+
+# A client of a few files with every kind of entry: what is damaged then is as often a name, a type
+# or permissions as content, and thousands of packages are installed in a minute.
+small=$work/small/Lumaris.app
+mkdir -p "$small/Contents/MacOS" "$small/Contents/Resources" "$small/Contents/Frameworks/A/Versions/5"
+cp "$build/samples/client/lumaris-backup-ui" "$small/Contents/MacOS/"
+cp "$app/Contents/Resources/INFO" "$small/Contents/Resources/"
+seq 2000 > "$small/Contents/Resources/numbers"
+echo secret > "$small/Contents/Resources/secret"
+chmod 400 "$small/Contents/Resources/secret"
+ln -s 5 "$small/Contents/Frameworks/A/Versions/Current"
+
+# damage_row NAME PACKAGE
+damage_row() {
+    local refused whole wrong cut_refused cut_whole cut_wrong
+    mkdir -p "$work/damage"
+    read -r refused whole wrong cut_refused cut_whole cut_wrong < <(
+        "$build/bench/damage" "$2" "$work/damage" "$FLIPS" "$CUTS")
+    echo "| $1 | $(stat -c %s "$2") | $refused | $whole | $wrong | $cut_refused | $cut_whole |" \
+        "$cut_wrong |"
+}
+
+echo
+echo "| package | bytes | flips: refused | whole | wrong | cuts: refused | whole | wrong |"
+echo "|---|---|---|---|---|---|---|---|"
+for options in "--filter zstd" "--format zip" "--filter xz" "--filter none"; do
+    rm -rf "$work/small/out"
+    # shellcheck disable=SC2086 # several options
+    "$pack" --build 121 --major 2 --minor 5 $options "$small" "$work/small/out"
+    damage_row "\`$options\`" "$work/small/out/package/lumaris.wpk"
+done
+(cd "$small" && bsdtar --format zip -cf "$work/small/zip" Contents)
+damage_row "zip of \`bsdtar\`" "$work/small/zip"

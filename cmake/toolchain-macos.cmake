@@ -1,0 +1,30 @@
+# Compiles and links for macOS on a Linux machine, with what scripts/macos.sh lays out in the folder
+# LUMARIS_MACOS_KIT: a compiler, headers, and stubs of the libraries in place of the libraries.
+# LUMARIS_MACOS_PROCESSOR is x86_64 or aarch64.
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES LUMARIS_MACOS_KIT LUMARIS_MACOS_PROCESSOR)
+
+set(CMAKE_SYSTEM_NAME Darwin)
+set(CMAKE_SYSTEM_PROCESSOR ${LUMARIS_MACOS_PROCESSOR})
+set(CMAKE_OSX_SYSROOT "" CACHE STRING "The compiler brings its own")
+
+set(CMAKE_CXX_COMPILER ${LUMARIS_MACOS_KIT}/bin/c++-${LUMARIS_MACOS_PROCESSOR})
+set(CMAKE_AR ${LUMARIS_MACOS_KIT}/bin/ar CACHE FILEPATH "")
+set(CMAKE_RANLIB ${LUMARIS_MACOS_KIT}/bin/ranlib CACHE FILEPATH "")
+set(CMAKE_INSTALL_NAME_TOOL /usr/bin/llvm-install-name-tool-14 CACHE FILEPATH "")
+
+# Nothing of the machine's own libraries may be found by chance.
+set(CMAKE_FIND_ROOT_PATH ${LUMARIS_MACOS_KIT})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(Qt5_DIR ${CMAKE_CURRENT_LIST_DIR}/macos)
+foreach(library LibArchive:archive ICU:icuuc ZSTD:zstd)
+    string(REGEX MATCH "(.*):(.*)" _ ${library})
+    set(${CMAKE_MATCH_1}_INCLUDE_DIR ${LUMARIS_MACOS_KIT}/include CACHE PATH "")
+    set(${CMAKE_MATCH_1}_LIBRARY ${LUMARIS_MACOS_KIT}/lib/lib${CMAKE_MATCH_2}.tbd CACHE FILEPATH "")
+endforeach()
+set(ICU_UC_LIBRARY_RELEASE ${ICU_LIBRARY} CACHE FILEPATH "")
+
+# Headers of others, as <...>: without warnings of theirs, and never /usr/include as a whole.
+add_compile_options(-isystem ${CMAKE_CURRENT_LIST_DIR}/macos/include)

@@ -1,0 +1,38 @@
+# shellcheck shell=bash
+# The sheet of all languages; sourced by demo.sh.
+
+act_languages() {
+    say "== Languages: the dialog under all twenty locales, on one sheet"
+    declare -A locales=([enu]=en_US [cht]=zh_TW [chs]=zh_CN [jpn]=ja_JP [deu]=de_DE [krn]=ko_KR
+        [fra]=fr_FR [ita]=it_IT [esn]=es_ES [ptb]=pt_BR [rus]=ru_RU [dan]=da_DK [nor]=nb_NO
+        [sve]=sv_SE [nld]=nl_NL [plk]=pl_PL [hun]=hu_HU [ptg]=pt_PT [trk]=tr_TR [csy]=cs_CZ)
+    local code watch pictures=()
+    new_bundle languages 120
+    for code in enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy; do
+        new_home "language-$code"
+        rm -f "$WORK/dialog.xwd"
+        "$WATCH" "$WORK/screen/Xvfb_screen0" "$WORK/dialog.xwd" > "$WORK/trace-language" &
+        watch=$!
+        start_launcher LC_ALL="${locales[$code]}.UTF-8"
+        TITLE=
+        while kill -0 "$LAUNCHER" 2>/dev/null && [ -z "$TITLE" ]; do
+            TITLE=$(xdotool search --onlyvisible --class launcher getwindowname 2>/dev/null || true)
+        done
+        STATUS=0
+        wait "$LAUNCHER" || STATUS=$?
+        kill "$watch"
+        wait "$watch" 2>/dev/null || true
+        [ "$STATUS" -eq 0 ] && client_runs || fail "$code: status $STATUS, or the client does not run"
+        [ "$TITLE" = "Lumaris Backup" ] || fail "$code: the title is '$TITLE'"
+        [ -s "$WORK/dialog.xwd" ] || fail "$code: the dialog was not seen at work"
+        check "$code under ${locales[$code]}: dialog, title, catalogue, client" \
+            grep -q "qstrDef)=\[$code" "$HOME_DIR/../err"
+        convert "xwd:$WORK/dialog.xwd" -trim +repage "$WORK/$code.png"
+        pictures+=(-label "$code  ${locales[$code]}" "$WORK/$code.png")
+        kill -9 "$(client_pid)"
+        rm -rf "$HOME_DIR"
+    done
+    montage "${pictures[@]}" -tile 3x -geometry +12+8 -pointsize 14 -background '#e8e8e8' \
+        "$DEMO/languages.png"
+    say "  the sheet: $DEMO/languages.png"
+}

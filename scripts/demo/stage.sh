@@ -1,0 +1,44 @@
+# shellcheck shell=bash
+# What an act starts with: a home folder, a launcher bundle, a package; sourced by demo.sh.
+
+# new_home NAME: a fresh home folder and temporary folder in HOME_DIR and TMP_DIR.
+new_home() {
+    HOME_DIR=$WORK/$1/home
+    TMP_DIR=$WORK/$1/tmp
+    USER_DIR=$HOME_DIR/.LumarisBackup
+    mkdir -p "$HOME_DIR" "$TMP_DIR"
+}
+
+# new_bundle NAME BUILD: a copy of the staged bundle in BUNDLE that carries that build; its log
+# thresholds are raised.
+new_bundle() {
+    BUNDLE=$WORK/$1.app
+    cp -R "$BUILD/LumarisLauncher.app" "$BUNDLE"
+    if [ "$2" != 120 ]; then
+        make_package "$2"
+        ship "$WORK/package-$2"
+    fi
+    printf '%s=7\n' launcher_debug service_debug extractor_debug > "$BUNDLE/log/launcher.debug"
+}
+
+# ship FOLDER: the bundle carries what lumaris-pack wrote there.
+ship() {
+    cp "$1/package/lumaris.wpk" "$BUNDLE/Contents/Resources/package/"
+    cp "$1/INFO" "$BUNDLE/Contents/Resources/INFO"
+}
+
+# make_package BUILD: the client folder of that build and its package, made once.
+make_package() {
+    [ -d "$WORK/package-$1" ] && return
+    "$ROOT/packaging/demo/stage-client.sh" "$1" "$CLIENT" "$WORK/client-$1/Lumaris.app" >/dev/null
+    "$PACK" --level 1 --major 2 --minor 5 --build "$1" "$WORK/client-$1/Lumaris.app" \
+        "$WORK/package-$1"
+}
+
+client_folder() {
+    if [ "$1" = 120 ]; then
+        printf '%s' "$BUILD/packaging/bundle/client/Lumaris.app"
+    else
+        printf '%s' "$WORK/client-$1/Lumaris.app"
+    fi
+}

@@ -1,0 +1,54 @@
+# shellcheck shell=bash
+# Looks at what was built for macOS; sourced by macos.sh.
+
+readonly ARCHITECTURES=(x86_64 arm64) # the names of the processors inside a program
+
+# look_at_program FILE RUN_PATH LIBRARY...: both processors, the oldest system, that run path and
+# these libraries, besides the C and C++ library, and no others
+look_at_program() {
+    local file=$1 architecture
+    shift
+    for architecture in "${ARCHITECTURES[@]}"; do
+        llvm-lipo-14 "$file" -verify_arch "$architecture" || die "$file has no part for $architecture"
+        look_at_part "$file" "$architecture" "$@"
+    done
+    say "$(basename "$file"): $(llvm-lipo-14 -archs "$file"), macOS $MINIMUM or later; links ${*:2}"
+}
+
+look_at_part() {
+    local file=$1 architecture=$2 run_path=$3 commands minimum linked expected paths
+    shift 3
+    commands=$(llvm-objdump-14 --macho --arch="$architecture" --private-headers "$file")
+    minimum=$(awk '$1 == "minos" || $1 == "version" && last ~ /VERSION_MIN/ { print $2; exit }
+                   $1 == "cmd" { last = $2 }' <<<"$commands")
+    [ "$minimum" = "$MINIMUM" ] || die "$file ($architecture) is for macOS '$minimum'"
+
+    linked=$(awk '$1 == "cmd" { load = $2 == "LC_LOAD_DYLIB" } load && $1 == "name" { print $2 }' \
+        <<<"$commands" | grep -v -e '^/usr/lib/libSystem\.' -e '^/usr/lib/libc++' |
+        sed 's,.*/,,; s,\.dylib$,,' | sort)
+    expected=$(printf '%s\n' "$@" | sort)
+    [ "$linked" = "$expected" ] ||
+        die "$file ($architecture) links $(tr '\n' ' ' <<<"$linked"), not $*"
+
+    paths=$(awk '$1 == "cmd" { load = $2 == "LC_RPATH" } load && $1 == "path" { print $2 }' \
+        <<<"$commands" | sort -u)
+    [ "$paths" = "$run_path" ] ||
+        die "$file ($architecture) looks for libraries in '$paths'"
+
+    # What only the other system has would be missing at run time.
+    ! llvm-nm-14 --arch="$architecture" -u "$file" | grep -E '_(syncfs|__errno_location|__xstat|_ZNSt7__cxx11)' ||
+        die "$file ($architecture) asks for a symbol of Linux"
+}
+
+look_at_bundle() {
+    local file
+    for file in MacOS/launcher Info.plist Resources/INFO Resources/package/lumaris.wpk \
+        Resources/images/ico_72_lumaris.png; do
+        [ -s "$1/Contents/$file" ] || die "$1 lacks Contents/$file"
+    done
+    plistutil -i "$1/Contents/Info.plist" -o /dev/null >/dev/null ||
+        die "$1/Contents/Info.plist is no valid property list"
+    [ "$(sed -n '/LSMinimumSystemVersion/{n;s/[^0-9.]*//g;p}' "$1/Contents/Info.plist")" = "$MINIMUM" ] ||
+        die "$1/Contents/Info.plist names another oldest system than the programs"
+    say "$(basename "$1"): complete, but for the toolkit's frameworks and plug-ins; Info.plist is valid"
+}
