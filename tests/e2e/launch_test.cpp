@@ -58,8 +58,9 @@ TEST_F(LaunchTest, NoPluginFolderIsSaidAndTouchesNothing) {
 TEST_F(LaunchTest, StaleEntriesInTheWay) {
     const auto litter = [this](int last) {
         Install();
-        for (int index = 0; index <= last; ++index)
+        for (int index = 0; index <= last; ++index) {
             WriteFile(Backup(index) / "stale", "x");
+        }
     };
     litter(8);
     WriteFile(lumaris / "stale", "x");
@@ -93,8 +94,9 @@ TEST_F(LaunchTest, OnlyOneLauncherWorks) {
     Install();
     ExpectUpgraded();
     fs::remove_all(lock);
-    if (geteuid() != 0)
+    if (geteuid() != 0) {
         GTEST_SKIP() << "only root can give a lock file to another user";
+    }
     WriteFile(lock, "");
     EXPECT_EQ(0, chown(lock.c_str(), 65534, 65534));
     const int foreign = open(lock.c_str(), O_RDONLY | O_CLOEXEC);

@@ -11,15 +11,17 @@ namespace {
 
 size_t Count(const std::string &text, const std::string &part) {
     size_t count = 0;
-    for (size_t at = 0; (at = text.find(part, at)) != std::string::npos; at += part.size())
+    for (size_t at = 0; (at = text.find(part, at)) != std::string::npos; at += part.size()) {
         ++count;
+    }
     return count;
 }
 
 TEST_F(LaunchTest, PidFileReplacedWhileRead) {
     // In memory, since a disk file system slows the writer down to some ten files a second.
-    if (!OwnMounts() || mount("home", home.c_str(), "tmpfs", 0, "size=16m") != 0)
+    if (!OwnMounts() || mount("home", home.c_str(), "tmpfs", 0, "size=16m") != 0) {
         GTEST_SKIP() << "needs root or user namespaces, to mount a volume";
+    }
     Install();
     WriteFile(client, "#!/bin/sh\n");  // of which nothing stays
     ShipDamaged();
@@ -69,19 +71,23 @@ TEST_F(LaunchTest, OneOfManyWorks) {
         } else {
             fs::remove(lock);
         }
-        if (round % 4 == 1)
+        if (round % 4 == 1) {
             WriteFile(lock, "");
+        }
         if (round % 4 == 3) {
             running.insert(StartToWait({"strace", "-f", "-bexecve", "-etrace=flock", "-o",
                                         place / "record", "-einject=flock:delay_enter=1500000"}));
             EXPECT_TRUE(Eventually([this] { return Lock() != ""; }));
         }
-        while (running.size() < launchers)
+        while (running.size() < launchers) {
             running.insert(StartToWait());
+        }
         EXPECT_TRUE(Eventually([&running] {
-            for (const pid_t launcher : std::set<pid_t>(running))
-                if (waitpid(launcher, nullptr, WNOHANG) != 0)
+            for (const pid_t launcher : std::set<pid_t>(running)) {
+                if (waitpid(launcher, nullptr, WNOHANG) != 0) {
                     running.erase(launcher);
+                }
+            }
             return running.size() <= 1;
         }));
         EXPECT_TRUE(Waits());
@@ -90,10 +96,12 @@ TEST_F(LaunchTest, OneOfManyWorks) {
         EXPECT_EQ(round % 4 == 3, Count(ReadFile(place / "record"), "(DELAYED)") > 0);
         lock = Lock();
         StopClient();
-        for (const pid_t launcher : running)
+        for (const pid_t launcher : running) {
             Finish(launcher);
-        if (killed != 0)
+        }
+        if (killed != 0) {
             Finish(killed);
+        }
         fs::remove(place / "record");
     }
 }
@@ -103,9 +111,11 @@ TEST_F(LaunchTest, UpgradesInARow) {
     const Names own = {"/dev/null", "/dev/null", "/dev/null", lumaris / "ui.pid"};
     const auto listing = [this] {
         Names names;
-        for (const fs::path &folder : {home, tmp})
-            for (const auto &entry : fs::recursive_directory_iterator(folder))
+        for (const fs::path &folder : {home, tmp}) {
+            for (const auto &entry : fs::recursive_directory_iterator(folder)) {
                 names.insert(entry.path());
+            }
+        }
         return names;
     };
     Names first;
@@ -122,14 +132,16 @@ TEST_F(LaunchTest, UpgradesInARow) {
             Names files;
             std::error_code none;
             const fs::path folder = "/proc/" + std::to_string(ClientPid()) + "/fd";
-            for (const auto &file : fs::directory_iterator(folder, none))
+            for (const auto &file : fs::directory_iterator(folder, none)) {
                 files.insert(fs::read_symlink(file, none).string());
+            }
             return files;
         };
         EXPECT_TRUE(Eventually([&] { return opened() == own; }))
             << testing::PrintToString(opened());
-        if (first.empty())
+        if (first.empty()) {
             first = listing();
+        }
         EXPECT_EQ(first, listing());
     }
 }
@@ -141,14 +153,16 @@ bool Remembers(pid_t process, const std::string &bytes) {
     for (std::string line; std::getline(maps, line);) {
         unsigned long begin = 0, end = 0;
         char mode[8] = "";
-        if (sscanf(line.c_str(), "%lx-%lx %7s", &begin, &end, mode) != 3 || mode[1] != 'w')
+        if (sscanf(line.c_str(), "%lx-%lx %7s", &begin, &end, mode) != 3 || mode[1] != 'w') {
             continue;
+        }
         std::string block(end - begin, '\0');
         memory.clear();
         memory.seekg(static_cast<std::streamoff>(begin));
         memory.read(block.data(), static_cast<std::streamsize>(block.size()));
-        if (block.find(bytes) != std::string::npos)
+        if (block.find(bytes) != std::string::npos) {
             return true;
+        }
     }
     return false;
 }
@@ -159,8 +173,9 @@ TEST_F(LaunchTest, SpeaksTheLanguageOfTheUser) {
     EXPECT_TRUE(Waits());
     // As the dialog holds its text; in the catalogue the bytes of each character are swapped.
     std::string text;
-    for (const char letter : std::string("Backup wird initialisiert"))
+    for (const char letter : std::string("Backup wird initialisiert")) {
         text += {letter, '\0'};
+    }
     EXPECT_TRUE(Remembers(launcher, text));
     LetGo();
     EXPECT_EQ(0, Finish(launcher));

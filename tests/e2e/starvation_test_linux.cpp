@@ -14,8 +14,9 @@ protected:
         umount2(home.c_str(), MNT_DETACH);
     }
     void SetUp() override {
-        if (!OwnMounts())
+        if (!OwnMounts()) {
             GTEST_SKIP() << "needs root or user namespaces, to mount volumes";
+        }
     }
 };
 
@@ -42,8 +43,9 @@ TEST_F(VolumeTest, PowerLost) {
     };
     // Names go to disk every second, or every five, contents when the kernel wants.
     if (run("truncate -s 32M '" + image + "' && mkfs.ext4 -q '" + image + "'") != 0 ||
-        use(image, Long() ? "" : ",commit=1") != 0)
+        use(image, Long() ? "" : ",commit=1") != 0) {
         GTEST_SKIP() << "needs root, a loop device and ext4";
+    }
     struct stat st = {};
     stat(home.c_str(), &st);
     // Otherwise a device as slow as this one is not allowed to keep anything in memory.
@@ -58,8 +60,9 @@ TEST_F(VolumeTest, PowerLost) {
     int copies = 0, at_end = 0;
     for (const int after = Long() ? 40 : 4; at_end == 0 || copies < at_end + after; ++copies) {
         const std::string copy = image + std::to_string(copies);
-        if (at_end == 0 && waitpid(launcher, nullptr, WNOHANG) == launcher)
+        if (at_end == 0 && waitpid(launcher, nullptr, WNOHANG) == launcher) {
             at_end = copies;
+        }
         do {  // until nothing was written meanwhile
             EXPECT_EQ(0, run("cp --sparse=always '" + image + "' '" + copy + "'"));
         } while (run("cmp -s '" + image + "' '" + copy + "'") != 0);

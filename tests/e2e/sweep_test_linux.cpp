@@ -38,8 +38,9 @@ struct Line {
 std::vector<Line> Lines(const fs::path &record) {
     std::ifstream file(record);
     std::vector<Line> lines;
-    for (Line line; file >> line.thread && std::getline(file >> std::ws, line.text);)
+    for (Line line; file >> line.thread && std::getline(file >> std::ws, line.text);) {
         lines.push_back(line);
+    }
     return lines;
 }
 
@@ -55,34 +56,39 @@ protected:
         new_tree = Tree(app);
     }
     void SetUp() override {
-        if (system("strace -o /dev/null true") != 0)
+        if (system("strace -o /dev/null true") != 0) {
             GTEST_SKIP() << "needs strace, and the permission to use it";
+        }
     }
 
     /// Runs the points in places of their own beside each other.
     void Spread(const Points &points) {
         std::vector<pid_t> workers;
         const unsigned count = std::thread::hardware_concurrency() + 1;
-        for (unsigned number = 0; number < count; ++number)
+        for (unsigned number = 0; number < count; ++number) {
             workers.push_back(Child([&] {
                 Settle("worker" + std::to_string(number));
                 fs::remove(bundle / "log/launcher.debug");
                 ExpectUpgraded();  // leaves its lock file, whose name is the place's own
-                for (size_t i = number; i < points.size(); i += count)
+                for (size_t i = number; i < points.size(); i += count) {
                     points[i]();
+                }
                 StopClient();
             }));
+        }
         alarm(0);  // each of them has its own
-        for (const pid_t worker : workers)
+        for (const pid_t worker : workers) {
             EXPECT_EQ(0, Finish(worker));
+        }
         printf("%zu points\n", points.size());
     }
 
     void Prepare(Scenario scenario) {
         StopClient();
         Install();
-        if (scenario == kFirst)
+        if (scenario == kFirst) {
             fs::remove_all(lumaris);
+        }
         scenario == kRollback ? ShipDamaged() : Ship("121");
     }
     std::string State() const {
@@ -112,8 +118,9 @@ protected:
             const size_t begin = line.text.find(place.string() + "/");
             // Not what the client's or the toolkit's files are read with, nor an escaped name.
             if (begin == std::string::npos || line.text.find('(') > begin ||
-                line.Has("Frameworks") || line.Has("\\"))
+                line.Has("Frameworks") || line.Has("\\")) {
                 continue;
+            }
             const size_t name = begin + place.string().size() + 1;
             Call call;
             call.name = line.Name();
@@ -121,10 +128,18 @@ protected:
             call.path = place / call.path == Lock() ? kLock : call.path;
             call.worker = line.thread != lines.back().thread;  // whose end is reported last
             call.ordinal = ++ordinals[line.thread + call.name + call.path];
-            if (call.name.rfind("open", 0) != 0 || line.Has("O_CREAT") || line.Has("O_TRUNC"))
+            if (call.name.rfind("open", 0) != 0 || line.Has("O_CREAT") || line.Has("O_TRUNC")) {
                 calls.push_back(call);
+            }
         }
         EXPECT_GT(calls.size(), 10U);
+        const auto first = [&calls](const char *part) {
+            return std::find_if(calls.begin(), calls.end(), [part](const Call &call) {
+                return call.Text().find(part) != std::string::npos;
+            });
+        };
+        EXPECT_TRUE(scenario != kUpgrade || first("syncfs") < first("_tmp"))
+            << "the backup goes before what was extracted is on the disk";
         return calls;
     }
     /// Starts the launcher with `what` injected at the call, which must be hit.
@@ -135,11 +150,12 @@ protected:
                                                          ":when=" + std::to_string(call.ordinal)}));
         const std::vector<Line> lines = Lines(place / "record");
         int entered = 0, injected = 0;
-        for (const Line &line : lines)
+        for (const Line &line : lines) {
             if ((line.thread == lines.back().thread) != call.worker) {
                 entered += line.Name() == call.name;
                 injected += line.Has("(INJECTED)");
             }
+        }
         EXPECT_TRUE(status > 1000 ? entered == call.ordinal : injected == 1)
             << "missed: " << ReadFile(place / "record");
         return status;
@@ -200,13 +216,16 @@ protected:
 
 TEST_F(SweepTest, Kills) {
     Points points;
-    for (const Scenario scenario : kScenarios)
+    for (const Scenario scenario : kScenarios) {
         for (const Call &call : Record(scenario)) {
             points.push_back([=] { Kill(scenario, call, SIGKILL); });
-            if (scenario == kUpgrade && call.name == "syncfs")
-                for (const int number : {SIGTERM, SIGINT, SIGHUP})
+            if (scenario == kUpgrade && call.name == "syncfs") {
+                for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
                     points.push_back([=] { Kill(scenario, call, number); });
+                }
+            }
         }
+    }
     Spread(points);
 }
 
@@ -214,11 +233,15 @@ TEST_F(SweepTest, FailingCalls) {
     const char *const errors[] = {"ENOSPC", "EACCES", "EIO", "EINTR"};
     Points points;
     size_t number = 0;
-    for (const Scenario scenario : kScenarios)
-        for (const Call &call : Record(scenario))
-            for (const char *error : errors)
-                if (Long() || ++number % 23 == 0 || call.name == "syncfs")
+    for (const Scenario scenario : kScenarios) {
+        for (const Call &call : Record(scenario)) {
+            for (const char *error : errors) {
+                if (Long() || ++number % 23 == 0 || call.name == "syncfs") {
                     points.push_back([=] { Fail(scenario, call, error); });
+                }
+            }
+        }
+    }
     Spread(points);
 }
 

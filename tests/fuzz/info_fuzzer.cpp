@@ -14,14 +14,16 @@ public:
     void Check() {
         LoadSourceVersion();
         for (const ustring &member : {m_source_major_version, m_source_minor_version,
-                                      m_source_build_version, m_source_icon_overlay_version})
+                                      m_source_build_version, m_source_icon_overlay_version}) {
             MUST(ustring::is_valid(member));
+        }
         const long source = strtol(m_source_build_version.c_str(), nullptr, 10);
-        for (const long step : {-1L, 0L, 1L})
+        for (const long step : {-1L, 0L, 1L}) {
             if (source > INT_MIN && source < INT_MAX) {
                 m_target_build_version = std::to_string(source + step);
                 MUST(IsNeedUpgrade() == (step > 0));
             }
+        }
     }
 };
 

@@ -38,8 +38,9 @@ protected:
     /// An installed copy of build 120 with the sample client, and nothing else.
     void Install() {
         std::error_code none;
-        for (const auto &entry : fs::directory_iterator(home, none))
+        for (const auto &entry : fs::directory_iterator(home, none)) {
             fs::remove_all(entry);
+        }
         WriteFile(app / "Contents/Resources/INFO", Info("120"));
         WriteFile(app / "old file", "old");
         fs::create_directories(app / "Contents/MacOS");
@@ -70,20 +71,23 @@ protected:
         alarm(kSecondsPerStep);
         under.push_back((bundle / "Contents/MacOS/launcher").string());
         const pid_t child = fork();
-        if (child != 0)
+        if (child != 0) {
             return child;
+        }
         alarm(kSecondsPerStep - 10);
         dup2(open((place / "out").c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0666), 1);
         dup2(open((place / "err").c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0666), 2);
-        for (int inherited = 3; inherited < 1024; ++inherited)
+        for (int inherited = 3; inherited < 1024; ++inherited) {
             close(inherited);
+        }
         setenv("HOME", home.c_str(), 1);
         setenv("TMPDIR", tmp.c_str(), 1);
         setenv("LC_ALL", locale.c_str(), 1);
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
         std::vector<char *> arguments;
-        for (std::string &argument : under)
+        for (std::string &argument : under) {
             arguments.push_back(argument.data());
+        }
         arguments.push_back(nullptr);
         execvp(arguments[0], arguments.data());
         _exit(98);
@@ -122,16 +126,19 @@ protected:
         std::error_code none;
         for (const auto &process : fs::directory_iterator("/proc", none)) {
             const std::string program = fs::read_symlink(process.path() / "exe", none).string();
-            if (program.rfind(place.string() + "/", 0) == 0)
+            if (program.rfind(place.string() + "/", 0) == 0) {
                 kill(atoi(process.path().filename().c_str()), SIGKILL);
+            }
         }
         fs::remove(lumaris / "ui.pid", none);
     }
     /// The lock file, empty when there is none yet.
     fs::path Lock() const {
-        for (const auto &entry : fs::directory_iterator(tmp))
-            if (entry.path().string().find("lockfile") != std::string::npos)
+        for (const auto &entry : fs::directory_iterator(tmp)) {
+            if (entry.path().string().find("lockfile") != std::string::npos) {
                 return entry.path();
+            }
+        }
         return {};
     }
 

@@ -31,8 +31,9 @@ inline bool Long() {
 }
 
 inline void WriteFile(const fs::path &path, const std::string &text) {
-    if (path.has_parent_path())
+    if (path.has_parent_path()) {
         fs::create_directories(path.parent_path());
+    }
     std::ofstream(path, std::ios::binary) << text;
 }
 
@@ -43,9 +44,11 @@ inline std::string ReadFile(const fs::path &path) {
 
 /// For what other processes do at once, unless they are broken.
 inline bool Eventually(const std::function<bool()> &holds) {
-    for (const time_t end = time(nullptr) + 10; time(nullptr) < end; usleep(2000))
-        if (holds())
+    for (const time_t end = time(nullptr) + 10; time(nullptr) < end; usleep(2000)) {
+        if (holds()) {
             return true;
+        }
+    }
     return false;
 }
 
@@ -59,8 +62,9 @@ inline int Finish(pid_t child) {
 /// Runs checks in a process of their own, whose failures are its exit status.
 inline pid_t Child(const std::function<void()> &checks) {
     const pid_t child = fork();
-    if (child != 0)
+    if (child != 0) {
         return child;
+    }
     checks();
     _exit(testing::Test::HasFailure() ? 1 : 0);
 }
@@ -80,13 +84,15 @@ inline void Apart(const std::function<void()> &checks) {
 inline std::string Describe(const fs::path &path, const std::string &name) {
     struct stat st = {};
     lstat(path.c_str(), &st);
-    if (S_ISLNK(st.st_mode))
+    if (S_ISLNK(st.st_mode)) {
         return name + "->" + fs::read_symlink(path).string();
+    }
     const std::string content = S_ISREG(st.st_mode) ? ReadFile(path) : "";
     const std::string hash = "#" + std::to_string(std::hash<std::string>()(content));
     char mode[16] = "";
-    if ((st.st_mode & 07777) != (S_ISDIR(st.st_mode) ? 0755 : 0644))
+    if ((st.st_mode & 07777) != (S_ISDIR(st.st_mode) ? 0755 : 0644)) {
         snprintf(mode, sizeof(mode), ":%o", st.st_mode & 07777U);
+    }
     return name +
            (S_ISDIR(st.st_mode)   ? "/"
             : S_ISREG(st.st_mode) ? "="
@@ -97,14 +103,17 @@ inline std::string Describe(const fs::path &path, const std::string &name) {
 /// What lies below `folder`, sorted.
 inline std::string Tree(const fs::path &folder) {
     std::set<std::string> lines;
-    if (!fs::is_directory(folder))
+    if (!fs::is_directory(folder)) {
         lines.insert(Describe(folder, ""));
-    else
-        for (const auto &entry : fs::recursive_directory_iterator(folder))
+    } else {
+        for (const auto &entry : fs::recursive_directory_iterator(folder)) {
             lines.insert(Describe(entry, entry.path().lexically_relative(folder).string()));
+        }
+    }
     std::string tree;
-    for (const std::string &line : lines)
+    for (const std::string &line : lines) {
         tree += (tree.empty() ? "" : " ") + line;
+    }
     return tree;
 }
 
@@ -163,8 +172,9 @@ inline void WriteEntry(struct archive *writer, const PackageEntry &item) {
         archive_entry_set_filetype(entry, AE_IFLNK);
         archive_entry_set_symlink(entry, item.symlink.c_str());
     }
-    if (!item.hardlink.empty())
+    if (!item.hardlink.empty()) {
         archive_entry_set_hardlink(entry, item.hardlink.c_str());
+    }
     archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()));
     EXPECT_EQ(ARCHIVE_OK, archive_write_header(writer, entry))
         << item.name << ": " << archive_error_string(writer);
@@ -181,8 +191,9 @@ inline void WritePackage(const fs::path &path, const Entries &entries,
         ASSERT_EQ(ARCHIVE_OK, archive_write_add_filter_by_name(writer, filter)) << filter;
     }
     ASSERT_EQ(ARCHIVE_OK, archive_write_open_filename(writer, path.c_str()));
-    for (const PackageEntry &item : entries)
+    for (const PackageEntry &item : entries) {
         WriteEntry(writer, item);
+    }
     EXPECT_EQ(ARCHIVE_OK, archive_write_free(writer));
 }
 

@@ -118,8 +118,9 @@ TEST_F(HostilePackageTest, BrokenEntries) {
         Reset();
         WritePackage(package, {{"name", "1"}, {"\xc3\xbc", "2"}}, format, "");
         std::string bytes = ReadFile(package);
-        for (size_t at = 0; (at = bytes.find(from, at)) != std::string::npos; at += to.size())
+        for (size_t at = 0; (at = bytes.find(from, at)) != std::string::npos; at += to.size()) {
             bytes.replace(at, from.size(), to);
+        }
         WriteFile(package, bytes);
         EXPECT_EQ(-1, Install()) << Tree(app);
         EXPECT_EQ(kOld, Tree(lumaris));
@@ -134,8 +135,9 @@ TEST_F(HostilePackageTest, BrokenEntries) {
 // old bundle under its backup name, until a package without such names comes.
 TEST_F(HostilePackageTest, NamesThatCannotBeRemoved) {
     std::string beyond_path_max;
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 20; ++i) {
         beyond_path_max += std::string(250, 'd') + "/";
+    }
     for (const std::string &name : {std::string("\xff"), beyond_path_max + "x"}) {
         Reset();
         EXPECT_EQ(-1, Install({{name, "x"}, kRefused})) << Log();
@@ -171,10 +173,11 @@ TEST_F(HostilePackageTest, CutAnywhere) {
             Reset();
             WriteFile(package, bytes.substr(0, end));
             ++cuts;
-            if (Install() != 0)
+            if (Install() != 0) {
                 EXPECT_EQ(kOld, Tree(lumaris)) << end;
-            else if (Tree(app) != whole)
+            } else if (Tree(app) != whole) {
                 differed.insert(*filter != '\0' ? filter : format);
+            }
             EXPECT_EQ(kUntouched, Tree(world));
         }
     }

@@ -54,8 +54,9 @@ public:
 private:
     static void Wait(bool here) {
         working = here;
-        if (here && waits)
+        if (here && waits) {
             may_go_on.tryAcquire(1, 5000);
+        }
     }
 };
 
@@ -70,8 +71,9 @@ namespace {
 /// The launcher's dialog, while a launcher exists.
 ProcessingProgressDialog *Dialog() {
     ProcessingProgressDialog *found = nullptr;
-    for (QWidget *widget : QApplication::topLevelWidgets())
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
         found = found ? found : qobject_cast<ProcessingProgressDialog *>(widget);
+    }
     return found;
 }
 
@@ -153,8 +155,9 @@ TEST_F(LauncherTest, AskedToQuitItFinishesTheRun) {
         launcher->Start();
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] {
-            if (working && Dialog()->isVisible() == visible)
+            if (working && Dialog()->isVisible() == visible) {
                 QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit));
+            }
         });
         timer.start(5);
         EXPECT_EQ(0, QApplication::exec());

@@ -105,8 +105,9 @@ TEST_F(MacServiceTest, StopsTheClientAndKillsOneThatStays) {
 }
 
 TEST_F(MacServiceTest, SignalsNobodyButTheClient) {
-    for (const fs::path &path : {root, home, root / "log"})
+    for (const fs::path &path : {root, home, root / "log"}) {
         fs::permissions(path, fs::perms::all);
+    }
     // In a group of its own, so that a signal to the group would show.
     Apart([this] {
         setpgid(0, 0);
@@ -114,8 +115,9 @@ TEST_F(MacServiceTest, SignalsNobodyButTheClient) {
         const std::string beyond = std::to_string((1L << 32) + getpid());
         for (const std::string &value :
              {std::string("0"), "-" + own, own, beyond, std::string("-1x"), std::string("none"),
-              std::string("\"\""), std::string("99999999999999999999"), std::string("a b")})
+              std::string("\"\""), std::string("99999999999999999999"), std::string("a b")}) {
             EXPECT_LT(Stop("pid=" + value + "\n"), 0.5) << value;
+        }
         EXPECT_LT(Stop("other=1\n"), 0.5);
         EXPECT_TRUE(Logged("ui.pid', not exist ?\n")) << Log();
         EXPECT_FALSE(Logged("[ERROR]")) << Log();
@@ -126,7 +128,7 @@ TEST_F(MacServiceTest, SignalsNobodyButTheClient) {
 
 TEST_F(MacServiceTest, OpensTheBundleWhateverTheDesktopSays) {
     const std::string bundle = app.string();
-    for (const int unregister : {0, 1, -2})
+    for (const int unregister : {0, 1, -2}) {
         for (const bool open : {true, false}) {
             desktop_calls = "";
             fs::resize_file(root / "log", 0);
@@ -138,6 +140,7 @@ TEST_F(MacServiceTest, OpensTheBundleWhateverTheDesktopSays) {
             EXPECT_FALSE(Logged(bundle + "\n")) << "this message has no line break";
             EXPECT_EQ(!open, Logged("): Failed to launch Lumaris UI\n")) << Log();
         }
+    }
 }
 
 }  // namespace
