@@ -13,14 +13,16 @@ public:
         fs::create_directories(folder);
         fs::create_directories(mount_point);
         const std::string folders = "'" + folder.string() + "' '" + mount_point.string() + "'";
-        if (OwnMounts())
+        if (OwnMounts()) {
             m_server = popen(("exec '" MAC_VOLUME "' " + folders + " -f -s").c_str(), "r");
+        }
         m_mounted = m_server != nullptr && std::fgetc(m_server) != EOF;
     }
     ~MacVolume() {
         umount2(m_mount_point.c_str(), MNT_FORCE | MNT_DETACH);  // ends the server at once
-        if (m_server != nullptr)
+        if (m_server != nullptr) {
             pclose(m_server);
+        }
     }
     /// False where a user may not mount, or without FUSE.
     bool mounted() const { return m_mounted; }

@@ -10,8 +10,9 @@
 inline bool OwnMounts() {
     static const bool own = [] {
         const std::string user = std::to_string(geteuid()), group = std::to_string(getegid());
-        if (unshare(CLONE_NEWNS | (user == "0" ? 0 : CLONE_NEWUSER)) != 0)
+        if (unshare(CLONE_NEWNS | (user == "0" ? 0 : CLONE_NEWUSER)) != 0) {
             return false;
+        }
         if (user != "0") {
             WriteFile("/proc/self/setgroups", "deny");
             WriteFile("/proc/self/uid_map", "0 " + user + " 1");
