@@ -1,7 +1,6 @@
 """What is measured on. Everything lies in the work folder and is made when the first case needs it."""
 
 import os
-import random
 import shutil
 import subprocess
 import sys
@@ -56,41 +55,12 @@ def bare_client(name: str) -> Path:
     return client
 
 
-def text(size: int, chance: random.Random) -> bytes:
-    """Words as in a header or a page of help: compresses as such files do."""
-    words = [f"{chance.choice('abcdefgh')}{chance.randrange(800)}" for _ in range(200)]
-    lines = [" ".join(chance.choices(words, k=9)) for _ in range(size // 40 + 1)]
-    return "\n".join(lines).encode()[:size]
-
-
-@cache
-def program_bytes() -> bytes:
-    """Program code: the launcher's own, and that of the toolkit that it is linked with."""
-    libraries = subprocess.run(
-        ["ldd", BUILD / "ui-client/launcher/launcher"], capture_output=True, text=True, check=True
-    ).stdout.split()
-    files = sorted({word for word in libraries if word.startswith("/") and "libQt" in word})
-    return b"".join(Path(file).read_bytes() for file in files)
-
-
-def program_part(index: int, size: int) -> bytes:
-    """The index-th part of that code, each another one to a compressor."""
-    source = program_bytes()
-    turn, start = divmod(index * size, len(source) - size)
-    return source[start : start + size].translate(bytes((byte + turn) % 256 for byte in range(256)))
-
-
 @cache
 def bundle_client() -> Path:
-    """About 80 MB in 3,000 entries: libraries and a great many small files, as bundles have them."""
-    client = bare_client("bundle")
-    chance = random.Random(1)
-    for index in range(2900):
-        folder = client / f"Contents/more/{index // 100}"
-        folder.mkdir(exist_ok=True)
-        (folder / f"page-{index}").write_bytes(text(chance.randrange(200, 16000), chance))
-    for index in range(60):
-        (client / f"Contents/more/library-{index}").write_bytes(program_part(index, 950 * 1000))
+    """The demo client that the build has staged, with a program that says when it runs."""
+    client = fresh("bundle") / "Lumaris.app"
+    subprocess.run(["cp", "-R", BUILD / "packaging/bundle/client/Lumaris.app", client], check=True)
+    shutil.copy(BENCH / "stamp-client", client / "Contents/MacOS/lumaris-backup-ui")
     return client
 
 
