@@ -22,8 +22,9 @@ void Extract() {
     const auto start = std::chrono::steady_clock::now();
     const int result = extractor.Extract();
     const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-    if (result == 0)
+    if (result == 0) {
         std::printf("%.6f\n", time.count());
+    }
 }
 
 }  // namespace
@@ -34,8 +35,9 @@ MacService::MacService() = default;
 MacService::~MacService() = default;
 void MacService::StopService() {}
 void MacService::PreUpgrade() {
-    if (!IsNeedUpgrade())
+    if (!IsNeedUpgrade()) {
         Extract();
+    }
 }
 bool MacService::IsNeedUpgrade() {
     return std::strcmp(mode, "dialog") == 0;
@@ -57,8 +59,9 @@ int main(int argc, char **argv) {
     mode = argv[3];
     StrTable::InitStrTable();
     Launcher launcher;
-    if (std::strcmp(mode, "silent") == 0)
+    if (std::strcmp(mode, "silent") == 0) {
         Notify_Adapter::GetInstance().disconnect();
+    }
     launcher.Run();
     launcher.Start();
     return QApplication::exec();

@@ -8,12 +8,15 @@
 // One operation of the launcher as a program, to run beside the command that does the same.
 int main(int argc, char **argv) {
     const char *const name = argc > 1 ? argv[1] : "";
-    if (argc == 3 && std::strcmp(name, "remove") == 0)
+    if (argc == 3 && std::strcmp(name, "remove") == 0) {
         return FSRemove(argv[2], false) == 0 ? 0 : 1;
-    if (argc == 4 && std::strcmp(name, "copy") == 0)
+    }
+    if (argc == 4 && std::strcmp(name, "copy") == 0) {
         return FSCopy(argv[2], argv[3], false) == 0 ? 0 : 1;
-    if (argc == 4 && std::strcmp(name, "move") == 0)
+    }
+    if (argc == 4 && std::strcmp(name, "move") == 0) {
         return FSRename(argv[2], argv[3], false) == 0 ? 0 : 1;
+    }
     if (argc == 4 && std::strcmp(name, "extract") == 0) {
         Extractor extractor;
         extractor.m_src_path = argv[2];

@@ -12,12 +12,14 @@
 template <typename Project, typename Peer>
 void Compare(const std::string &name, Project project, Peer peer) {
     benchmark::RegisterBenchmark((name + "/project").c_str(), [project](benchmark::State &state) {
-        for (auto _ : state)
+        for (auto _ : state) {
             project();
+        }
     });
     benchmark::RegisterBenchmark((name + "/peer").c_str(), [peer](benchmark::State &state) {
-        for (auto _ : state)
+        for (auto _ : state) {
             peer();
+        }
     });
 }
 

@@ -40,31 +40,37 @@ void Touch(const std::string &file) {
 void Project(const std::string &file) {
     Touch(file);
     Config config;
-    if (config.read(file.c_str()) != 0 || config.size() != kLines)
+    if (config.read(file.c_str()) != 0 || config.size() != kLines) {
         WrongCount();
-    for (const auto &entry : config)
+    }
+    for (const auto &entry : config) {
         benchmark::DoNotOptimize(entry.second.c_str());
+    }
 }
 
 void Peer(const std::string &file) {
     Touch(file);
     const QSettings settings(QString::fromStdString(file), QSettings::IniFormat);
     const QStringList keys = settings.allKeys();
-    if (keys.size() != kLines)
+    if (keys.size() != kLines) {
         WrongCount();
-    for (const QString &key : keys)
+    }
+    for (const QString &key : keys) {
         benchmark::DoNotOptimize(settings.value(key).toString().constData());
+    }
 }
 
 /// `step` and the number of lines have no common factor: every key is there.
 void CompareReading(const std::string &name, int step) {
-    for (const auto &[side, read] : {std::pair("project", Project), std::pair("peer", Peer)})
+    for (const auto &[side, read] : {std::pair("project", Project), std::pair("peer", Peer)}) {
         benchmark::RegisterBenchmark((name + "/" + side).c_str(),
                                      [step, read = read](benchmark::State &state) {
                                          const std::string file = File(step);
-                                         for (auto _ : state)
+                                         for (auto _ : state) {
                                              read(file);
+                                         }
                                      });
+    }
 }
 
 }  // namespace

@@ -48,8 +48,9 @@ void CompareLogging() {
     benchmark::RegisterBenchmark("log-filtered/project", [](benchmark::State &state) {
         OpenLog();
         const unsigned long before = Allocations();
-        for (auto _ : state)
+        for (auto _ : state) {
             MSG_DEBUG("decompress from '%s' to '%s'\n", "lumaris.wpk", "Lumaris.app");
+        }
         state.counters["allocations"] = double(Allocations() - before);
     });
     benchmark::RegisterBenchmark("log-filtered/peer", [](benchmark::State &state) {
@@ -61,13 +62,15 @@ void CompareLogging() {
     });
     benchmark::RegisterBenchmark("log-written/project", [](benchmark::State &state) {
         OpenLog();
-        for (auto _ : state)
+        for (auto _ : state) {
             MSG_ERROR("archive_read_extract2 failed: '%s'\n", "Truncated input file");
+        }
     });
     benchmark::RegisterBenchmark("log-written/peer", [](benchmark::State &state) {
         spdlog::logger &log = PeerLog();
-        for (auto _ : state)
+        for (auto _ : state) {
             log.error("[ERROR] extractor({}): archive_read_extract2 failed: '{}'", __LINE__,
                       "Truncated input file");
+        }
     });
 }

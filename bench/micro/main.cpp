@@ -65,8 +65,9 @@ const std::vector<Path> &Paths() {
                   "help/"
                   "\xe3\x83\x90\xe3\x83\x83\xe3\x82\xaf\xe3\x82\xa2\xe3\x83\x83\xe3\x83\x97.txt",
               "/Applications/LumarisLauncher.app/Contents/Resources/package/lumaris.wpk" +
-                  std::string(40, 'x')})
+                  std::string(40, 'x')}) {
             result.push_back({text, text});
+        }
         return result;
     }();
     return paths;
@@ -74,8 +75,9 @@ const std::vector<Path> &Paths() {
 
 int main(int argc, char **argv) {
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
+    }
     CompareStrings();
     CompareLogging();
     CompareConfig();

@@ -39,12 +39,14 @@ void CompareSearch(const char *name, Search search) {
     Compare(
         name,
         [search] {
-            for (const Path &path : Paths())
+            for (const Path &path : Paths()) {
                 DoNotOptimize(search(path.own));
+            }
         },
         [search] {
-            for (const Path &path : Paths())
+            for (const Path &path : Paths()) {
                 DoNotOptimize(search(std::string_view(path.text)));
+            }
         });
 }
 
@@ -133,8 +135,9 @@ void CompareRoundTrip() {
             }
         },
         [] {
-            for (const Path &path : Paths())
+            for (const Path &path : Paths()) {
                 icu.ToUtf8(icu.units.data(), icu.FromUtf8(path.text));
+            }
         });
 }
 
@@ -146,8 +149,9 @@ void CompareNormalize(const char *name, ustring::normalization_form form,
     Compare(
         name,
         [form] {
-            for (const Path &path : Paths())
+            for (const Path &path : Paths()) {
                 DoNotOptimize(path.own.normalize(form).c_str());
+            }
         },
         [icu_form] {
             for (const Path &path : Paths()) {

@@ -22,20 +22,23 @@ bool is_control(char c) {
 }
 
 char *skip_blanks(char *p) {
-    while (is_blank(*p))
+    while (is_blank(*p)) {
         ++p;
+    }
     return p;
 }
 
 }  // namespace
 
 int Config::read(const ustring &path) {
-    if (path.empty())
+    if (path.empty()) {
         return -1;
+    }
     const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.c_str(), "r"),
                                                                 std::fclose);
-    if (file == nullptr)
+    if (file == nullptr) {
         return -1;
+    }
 
     ustring key, value;  // outside the loop, to keep their buffers
     char line[8192];     // a longer line counts as several lines
@@ -54,30 +57,37 @@ int Config::read(const ustring &path) {
 int Config::parse(char *line, int /*length*/, ustring &key, ustring &value) {
     char *const key_begin = skip_blanks(line);
     char *key_end = key_begin;
-    while (is_key_char(*key_end))
+    while (is_key_char(*key_end)) {
         ++key_end;
-    if (*key_end == '\0' || *key_end == '#')
+    }
+    if (*key_end == '\0' || *key_end == '#') {
         return 1;
+    }
 
     char *p = skip_blanks(key_end);
-    if (*p != '=')
+    if (*p != '=') {
         return 2;
+    }
     p = skip_blanks(p + 1);
-    if (*p == '\0')
+    if (*p == '\0') {
         return 2;
+    }
 
     const char quote = *p;
     const bool quoted = quote == '"' || quote == '\'';
     char *const value_begin = quoted ? ++p : p;
-    while (!is_control(*p) && *p != (quoted ? quote : ' '))
+    while (!is_control(*p) && *p != (quoted ? quote : ' ')) {
         ++p;
-    if (quoted && *p != quote)
+    }
+    if (quoted && *p != quote) {
         return 2;
+    }
 
     char *const value_end = p;
     p = skip_blanks(quoted ? p + 1 : p);
-    if (*p != '\0' && *p != '#')
+    if (*p != '\0' && *p != '#') {
         return 2;
+    }
 
     *key_end = '\0';
     *value_end = '\0';

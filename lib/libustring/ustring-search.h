@@ -30,24 +30,31 @@ inline unsigned long last(std::string_view text, unsigned long pos) {
 
 inline unsigned long find(std::string_view text, std::string_view s, unsigned long pos) {
     // Unlike the standard search, this one finds no empty needle behind the last byte.
-    if (pos >= text.size())
+    if (pos >= text.size()) {
         return npos;
-    if (s.size() == 1)
+    }
+    if (s.size() == 1) {
         return text.find(s[0], pos);
+    }
     return text.size() < kLongText ? text.find(s, pos) : find_long(text, s, pos);
 }
 
 inline unsigned long rfind(std::string_view text, std::string_view s, unsigned long pos) {
-    if (text.size() < s.size() || text.empty())
+    if (text.size() < s.size() || text.empty()) {
         return npos;
+    }
     // An empty needle is found at the last byte, not behind it.
-    if (s.empty())
+    if (s.empty()) {
         return last(text, pos);
-    if (s.size() == 1)
+    }
+    if (s.size() == 1) {
         return text.rfind(s[0], pos);
-    for (unsigned long end = std::min(pos, text.size() - s.size()) + 1; end-- > 0;)
-        if (text[end] == s[0] && text.substr(end, s.size()) == s)
+    }
+    for (unsigned long end = std::min(pos, text.size() - s.size()) + 1; end-- > 0;) {
+        if (text[end] == s[0] && text.substr(end, s.size()) == s) {
             return end;
+        }
+    }
     return npos;
 }
 
@@ -55,10 +62,12 @@ inline unsigned long rfind(std::string_view text, std::string_view s, unsigned l
 inline unsigned long first(std::string_view text, std::string_view set, unsigned long pos,
                            bool wanted) {
     for (unsigned long probe = 0; probe < kProbes; ++probe, ++pos) {
-        if (pos >= text.size())
+        if (pos >= text.size()) {
             return npos;
-        if (contains(set, text[pos]) == wanted)
+        }
+        if (contains(set, text[pos]) == wanted) {
             return pos;
+        }
     }
     return scan_forward(text, set, pos, wanted);
 }
@@ -68,10 +77,12 @@ inline unsigned long last(std::string_view text, std::string_view set, unsigned 
                           bool wanted) {
     unsigned long end = text.empty() ? 0 : last(text, pos) + 1;
     for (unsigned long probe = 0; probe < kProbes; ++probe) {
-        if (end == 0)
+        if (end == 0) {
             return npos;
-        if (contains(set, text[--end]) == wanted)
+        }
+        if (contains(set, text[--end]) == wanted) {
             return end;
+        }
     }
     return scan_backward(text, set, end, wanted);
 }

@@ -23,8 +23,9 @@ namespace {
 class byte_set {
 public:
     explicit byte_set(std::string_view bytes) {
-        for (char c : bytes)
+        for (char c : bytes) {
             row(c) = static_cast<uint16_t>(row(c) | bit(c));
+        }
     }
     bool contains(char c) const { return (m_rows[low(c)] & bit(c)) != 0; }
 
@@ -58,19 +59,22 @@ void warn(const char *call, UErrorCode status, int line) {
 /// Exact fit; a buffer is kept while it is large enough and at most twice too large.
 template <typename T>
 void fit(T *&buffer, unsigned long &cap, unsigned long n) {
-    if (cap >= n && cap / 2 <= n)
+    if (cap >= n && cap / 2 <= n) {
         return;
+    }
     void *moved = std::realloc(buffer, n * sizeof(T));
-    if (moved == nullptr)
+    if (moved == nullptr) {
         throw std::bad_alloc();
+    }
     buffer = static_cast<T *>(moved);
     cap = n;
 }
 
 /// Capacity for `n` more characters behind `len`; no buffer holds what would overflow the sum.
 unsigned long grown(unsigned long len, unsigned long n) {
-    if (n >= LONG_MAX / sizeof(unsigned short) - len)
+    if (n >= LONG_MAX / sizeof(unsigned short) - len) {
         throw std::bad_alloc();
+    }
     return len + n + 1;
 }
 
@@ -81,8 +85,9 @@ bool points_into(const T *p, const T *buffer, unsigned long cap) {
 
 unsigned long unit_count(const unsigned short *s, unsigned long n) {
     unsigned long count = 0;
-    while (count < n && s[count] != 0)
+    while (count < n && s[count] != 0) {
         ++count;
+    }
     return count;
 }
 
@@ -90,8 +95,9 @@ using fold_table = std::array<unsigned char, 256>;
 
 constexpr fold_table make_fold_table() {
     fold_table table{};
-    for (unsigned i = 0; i < table.size(); ++i)
+    for (unsigned i = 0; i < table.size(); ++i) {
         table[i] = static_cast<unsigned char>(i >= 'A' && i <= 'Z' ? i - 'A' + 'a' : i);
+    }
     return table;
 }
 
@@ -117,8 +123,9 @@ bool is_plain(const Unit *s, unsigned long n) {
         std::memcpy(&word, s + i, sizeof(word));
         found |= word | (word - ones);  // a unit of 0 borrows and so sets its high bits
     }
-    for (; i < n; ++i)
+    for (; i < n; ++i) {
         found |= s[i] == 0 || s[i] > 0x7f ? high : 0;
+    }
     return (found & high) == 0;
 }
 
@@ -145,9 +152,11 @@ int difference(const char *a, const char *b, unsigned long end) {
             return static_cast<int>(x >> shift & 0xff) - static_cast<int>(y >> shift & 0xff);
         }
     }
-    for (; i < end; ++i)
-        if (a[i] != b[i] || a[i] == '\0')
+    for (; i < end; ++i) {
+        if (a[i] != b[i] || a[i] == '\0') {
             return static_cast<unsigned char>(a[i]) - static_cast<unsigned char>(b[i]);
+        }
+    }
     return 0;
 }
 
@@ -155,8 +164,9 @@ int str_case_cmp(const char *a, const char *b) {
     for (;; ++a, ++b) {
         const int x = case_fold[static_cast<unsigned char>(*a)];
         const int y = case_fold[static_cast<unsigned char>(*b)];
-        if (x != y || x == 0)
+        if (x != y || x == 0) {
             return x - y;
+        }
     }
 }
 
@@ -166,8 +176,9 @@ namespace ustring_search {
 
 /// memmem never degrades to a quadratic search, but its preparation costs more than a path is long.
 unsigned long find_long(std::string_view text, std::string_view s, unsigned long pos) {
-    if (s.empty())
+    if (s.empty()) {
         return pos;
+    }
     const void *hit = memmem(text.data() + pos, text.size() - pos, s.data(), s.size());
     return hit == nullptr
                ? npos
@@ -177,18 +188,22 @@ unsigned long find_long(std::string_view text, std::string_view s, unsigned long
 unsigned long scan_forward(std::string_view text, std::string_view set, unsigned long pos,
                            bool wanted) {
     const byte_set bytes(set);
-    for (; pos < text.size(); ++pos)
-        if (bytes.contains(text[pos]) == wanted)
+    for (; pos < text.size(); ++pos) {
+        if (bytes.contains(text[pos]) == wanted) {
             return pos;
+        }
+    }
     return npos;
 }
 
 unsigned long scan_backward(std::string_view text, std::string_view set, unsigned long end,
                             bool wanted) {
     const byte_set bytes(set);
-    while (end-- > 0)
-        if (bytes.contains(text[end]) == wanted)
+    while (end-- > 0) {
+        if (bytes.contains(text[end]) == wanted) {
             return end;
+        }
+    }
     return npos;
 }
 
@@ -265,8 +280,9 @@ int ustring::convert_from_data() const {
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8(fits ? units : nullptr, fits ? kShortText : 0, &len, m_data,
                   fits ? int32_t(std::strlen(m_data)) : -1, &status);
-    if (!fits || U_SUCCESS(status))
+    if (!fits || U_SUCCESS(status)) {
         realloc_wdata(static_cast<unsigned long>(len) + 1);
+    }
     if (!fits) {
         status = U_ZERO_ERROR;
         u_strFromUTF8(to_icu(m_wdata), icu_capacity(m_wdata_cap), &len, m_data, -1, &status);
@@ -276,8 +292,9 @@ int ustring::convert_from_data() const {
         clear_wdata();
         return -1;
     }
-    if (fits)
+    if (fits) {
         std::memcpy(m_wdata, units, static_cast<unsigned long>(len) * sizeof(*units));
+    }
     m_wdata_len = static_cast<unsigned long>(len);
     m_wdata[m_wdata_len] = 0;
     return 0;
@@ -300,8 +317,9 @@ int ustring::convert_from_wdata() {
     UErrorCode status = U_ZERO_ERROR;
     u_strToUTF8(fits ? bytes : nullptr, fits ? int32_t(sizeof(bytes)) : 0, &len, to_icu(m_wdata),
                 fits ? int32_t(unit_count(m_wdata, wdata_len)) : -1, &status);
-    if (!fits || U_SUCCESS(status))
+    if (!fits || U_SUCCESS(status)) {
         realloc_data(static_cast<unsigned long>(len) + 1);
+    }
     if (!fits) {
         status = U_ZERO_ERROR;
         u_strToUTF8(m_data, icu_capacity(m_data_cap), &len, to_icu(m_wdata), -1, &status);
@@ -311,8 +329,9 @@ int ustring::convert_from_wdata() {
         clear();
         return -1;
     }
-    if (fits)
+    if (fits) {
         std::memcpy(m_data, bytes, static_cast<unsigned long>(len));
+    }
     m_data_len = static_cast<unsigned long>(len);
     m_data[m_data_len] = '\0';
     m_wdata_len = wdata_len;
@@ -327,8 +346,9 @@ ustring &ustring::assign_bytes(const char *s, unsigned long n) {
         clear();
         return append_bytes(s, n);
     }
-    if (n < m_data_len)
+    if (n < m_data_len) {
         keep(static_cast<unsigned long>(s - m_data), n);
+    }
     return *this;
 }
 
@@ -344,8 +364,9 @@ ustring &ustring::assign_units(const unsigned short *s, unsigned long n) {
 }
 
 ustring &ustring::assign(const ustring &s, unsigned long pos, unsigned long n) {
-    if (&s == this)
+    if (&s == this) {
         return assign(substr(pos, n), 0, npos);
+    }
     clear();
     return append(s, pos, n);
 }
@@ -405,8 +426,9 @@ ustring &ustring::append_units(const unsigned short *s, unsigned long n) {
 
 /// Makes room for `n` units behind the UTF-16 form, which is built first.
 void ustring::begin_wdata_edit(unsigned long n) {
-    if (m_wdata_len == 0 && m_data_len != 0)
+    if (m_wdata_len == 0 && m_data_len != 0) {
         convert_from_data();
+    }
     realloc_wdata(grown(m_wdata_len, n));
 }
 
@@ -418,8 +440,9 @@ void ustring::end_wdata_edit(unsigned long n) {
 }
 
 ustring &ustring::append(const ustring &s, unsigned long pos, unsigned long n) {
-    if (pos > s.m_data_len)
+    if (pos > s.m_data_len) {
         throw std::out_of_range("substr");
+    }
     return append(s.m_data + pos, std::min(n, s.m_data_len));
 }
 
@@ -461,8 +484,9 @@ ustring &ustring::append(unsigned short u, unsigned long n) {
 }
 
 const unsigned short *ustring::c_str_utf16() const {
-    if (m_wdata_len == 0)
+    if (m_wdata_len == 0) {
         convert_from_data();
+    }
     return m_wdata;
 }
 
@@ -498,8 +522,9 @@ void ustring::replace(char from, char to) {
 
 /// Reduces the text to the `n` bytes from `pos`, in place.
 void ustring::keep(unsigned long pos, unsigned long n) {
-    if (pos != 0)
+    if (pos != 0) {
         std::memmove(m_data, m_data + pos, n);
+    }
     m_data_len = n;
     m_data[n] = '\0';
     clear_wdata();
@@ -550,8 +575,9 @@ ustring ustring::normalize(normalization_form form) const {
 ustring ustring::normalize(const ustring &src, normalization_form form) {
     static constexpr UNormalization2Mode modes[] = {UNORM2_COMPOSE, UNORM2_DECOMPOSE};
     ustring result;
-    if (src.empty())
+    if (src.empty()) {
         return result;
+    }
     // ASCII is the same in both forms, and nearly all paths are ASCII.
     if (is_plain(reinterpret_cast<const unsigned char *>(src.m_data), src.m_data_len)) {
         result.append_bytes(src.m_data, src.m_data_len);
@@ -589,8 +615,9 @@ ustring ustring::normalize(const ustring &src, normalization_form form) {
 }
 
 bool ustring::is_valid(const ustring &s) {
-    if (s.empty())
+    if (s.empty()) {
         return true;
+    }
     int32_t len = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8(nullptr, 0, &len, s.m_data, -1, &status);

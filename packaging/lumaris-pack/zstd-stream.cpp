@@ -39,8 +39,7 @@ void ZstdStream::Finish() {
 void ZstdStream::Compress(ZSTD_inBuffer input, ZSTD_EndDirective directive) {
     for (bool done = false; !done;) {
         ZSTD_outBuffer output = {m_block.data(), m_block.size(), 0};
-        const std::size_t left =
-            ZSTD_compressStream2(m_context.get(), &output, &input, directive);
+        const std::size_t left = ZSTD_compressStream2(m_context.get(), &output, &input, directive);
         if (ZSTD_isError(left) != 0) {
             throw PackageError(std::string("cannot compress: ") + ZSTD_getErrorName(left));
         }

@@ -21,8 +21,9 @@ const std::string kKeyCharacters =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-.";
 const std::string kControls = [] {
     std::string all = "\x7f";
-    for (char c = 0; c < ' '; ++c)
+    for (char c = 0; c < ' '; ++c) {
         all += c;
+    }
     return all;
 }();
 
@@ -36,19 +37,23 @@ std::string_view Cut(std::string_view &line, size_t n) {
 int Parse(std::string_view line, std::string &key, std::string &value) {
     Cut(line, line.find_first_not_of(kBlanks));
     key = Cut(line, line.find_first_not_of(kKeyCharacters));
-    if (line.empty() || line[0] == '#')
+    if (line.empty() || line[0] == '#') {
         return 1;
+    }
     Cut(line, line.find_first_not_of(kBlanks));
-    if (Cut(line, 1) != "=")
+    if (Cut(line, 1) != "=") {
         return 2;
+    }
     Cut(line, line.find_first_not_of(kBlanks));
-    if (line.empty())
+    if (line.empty()) {
         return 2;
+    }
     if (line[0] == '"' || line[0] == '\'') {
         const std::string_view quote = Cut(line, 1);
         value = Cut(line, line.find_first_of(kControls + quote[0]));
-        if (Cut(line, 1) != quote)
+        if (Cut(line, 1) != quote) {
             return 2;
+        }
     } else {
         value = Cut(line, line.find_first_of(kControls + ' '));
     }
@@ -78,8 +83,9 @@ bool ParseFile(const std::string &text, Entries &entries) {
     for (size_t pos = 0; pos < text.size();) {
         const size_t end = std::min(text.find('\n', pos), text.size() - 1) + 1;
         const size_t n = std::min<size_t>(end - pos, 8191);
-        if (ParseLine(text.substr(pos, n), entries) == 2)
+        if (ParseLine(text.substr(pos, n), entries) == 2) {
             return false;
+        }
         pos += n;
     }
     return true;
@@ -100,8 +106,9 @@ void MustHold(Config &config, const Entries &entries) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const std::string text = Bytes(data, size);
     const fs::path file = OwnFolder() / "file", earlier = OwnFolder() / "earlier";
-    if (!fs::exists(earlier))
+    if (!fs::exists(earlier)) {
         WriteFile(earlier, "earlier key=1");  // malformed: leaves nothing
+    }
     WriteFile(file, text);
 
     Entries entries = {{"earlier", "1"}};

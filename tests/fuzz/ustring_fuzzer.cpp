@@ -22,8 +22,9 @@ constexpr unsigned long npos = ustring::npos;
 bool IsValid(const std::string &s) {
     const auto length = static_cast<int32_t>(s.size());
     UChar32 c = 0;
-    for (int32_t i = 0; i < length && c >= 0;)
+    for (int32_t i = 0; i < length && c >= 0;) {
         U8_NEXT(s.data(), i, length, c);
+    }
     return c >= 0;
 }
 
@@ -35,9 +36,11 @@ icu::UnicodeString Units(const std::string &s) {
 /// Back to UTF-8; empty for units that are not UTF-16.
 std::string Text(const icu::UnicodeString &units) {
     std::string text;
-    for (int32_t i = 0; i < units.length(); i = units.moveIndex32(i, 1))
-        if (U_IS_SURROGATE(units.char32At(i)))
+    for (int32_t i = 0; i < units.length(); i = units.moveIndex32(i, 1)) {
+        if (U_IS_SURROGATE(units.char32At(i))) {
             return text;
+        }
+    }
     return units.toUTF8String(text);
 }
 
@@ -56,8 +59,9 @@ void CheckUnicode(const ustring &u, const std::string &s) {
     icu::UnicodeString units = Units(s);
     MUST(std::u16string(reinterpret_cast<const char16_t *>(u.c_str_utf16())) ==
          std::u16string(units.getTerminatedBuffer()));
-    if (IsValid(s))
+    if (IsValid(s)) {
         MUST(ustring(Pointer(units)).c_str() == s);
+    }
     MUST(u.normalize(ustring::NFC).c_str() ==
          Normalized(s, *icu::Normalizer2::getNFCInstance(status)));
     MUST(u.normalize(ustring::NFD).c_str() ==
@@ -84,9 +88,11 @@ int Compare(const std::string &a, const std::string &b, unsigned long n, bool fo
         const char c = i < s.size() ? s[i] : '\0';
         return static_cast<unsigned char>(fold && c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
     };
-    for (unsigned long i = 0; i < std::min(n, std::max(a.size(), b.size())); ++i)
-        if (at(a, i) != at(b, i))
+    for (unsigned long i = 0; i < std::min(n, std::max(a.size(), b.size())); ++i) {
+        if (at(a, i) != at(b, i)) {
             return at(a, i) - at(b, i);
+        }
+    }
     return 0;
 }
 
@@ -189,8 +195,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         CheckSearches(u, s, c, x.substr(0, 1), pos);
         CheckComparison(u, s, x, n);
         CheckSubstr(u, s, pos, n);
-        if (s.size() > 2000)  // doubling has no end otherwise
+        if (s.size() > 2000) {  // doubling has no end otherwise
             break;
+        }
     }
     return 0;
 }

@@ -21,8 +21,9 @@ protected:
     /// The map as "key>value|key>value|".
     std::string entries() const {
         std::string all;
-        for (const auto &[key, value] : m_config)
+        for (const auto &[key, value] : m_config) {
             all.append(key.c_str()).append(">").append(value.c_str()).append("|");
+        }
         return all;
     }
 
@@ -77,8 +78,9 @@ TEST_F(ConfigTest, ReadsNumbers) {
     read("a=4711\nb=12abc\nc=-5\nd=010\ne=0x10\nf=abc\n");
     const std::pair<const char *, int> cases[] = {{"a", 4711}, {"b", 12}, {"c", -5},     {"d", 10},
                                                   {"e", 0},    {"f", 0},  {"missing", 0}};
-    for (const auto &[key, number] : cases)
+    for (const auto &[key, number] : cases) {
         EXPECT_EQ(number, m_config.get_int(key)) << key;
+    }
 }
 
 }  // namespace

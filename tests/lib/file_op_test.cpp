@@ -39,10 +39,12 @@ protected:
 };
 
 TEST_F(FileOpTest, RealPathDecides) {
-    for (const char *file : {"d/e\u0301t\u00E9", "both/e\u0301", "\u212Aelvin", "x (deleted)"})
+    for (const char *file : {"d/e\u0301t\u00E9", "both/e\u0301", "\u212Aelvin", "x (deleted)"}) {
         WriteFile(file, "12345");
-    for (const char *file : {"both/\u00E9", "bad\xFF"})
+    }
+    for (const char *file : {"both/\u00E9", "bad\xFF"}) {
         WriteFile(file, "");
+    }
     fs::create_directory_symlink("d", "link");
     const struct {
         ustring path;
@@ -71,8 +73,9 @@ TEST_F(FileOpTest, RealPathDecides) {
         {"Kelvin", "0 1 1 5 " + Full("Kelvin") + " Kelvin"},
         {"no/such", "0 0 0 0 no/such such"},
         {"Kelvin/x", "-1 0 0 0  "}};
-    for (const auto &[path, record] : records)
+    for (const auto &[path, record] : records) {
         EXPECT_EQ(Info(path), record);
+    }
     EXPECT_EQ(GetFileInfo("bad\xFF", info), -1);
     EXPECT_TRUE(Logged("FSPathMakeRef: -43\n"));
     info.path = "no/such";
@@ -84,8 +87,9 @@ TEST_F(FileOpTest, RealPathDecides) {
 /// since composition turns this one into two.
 TEST_F(FileOpTest, DeepFolders) {
     ustring deep("deep");
-    for (int i = 0; i < 600; ++i)
+    for (int i = 0; i < 600; ++i) {
         deep += "/\u0958";
+    }
     EXPECT_EQ(FSMKDir(deep, true), 0);
     WriteFile((deep + "/file").c_str(), "");
     struct rlimit files = {};
@@ -99,8 +103,9 @@ TEST_F(FileOpTest, DeepFolders) {
 
 TEST_F(FileOpTest, CopyMovesContentOnly) {
     std::string text(33UL * 1024 * 1024, 'x');  // more than one block
-    for (size_t i = 0; i < text.size(); i += 1000)
+    for (size_t i = 0; i < text.size(); i += 1000) {
         text[i] = static_cast<char>(i / 1000);
+    }
     WriteFile("src", text);
     WriteFile("dst", text + "longer");
     WriteFile("e\u0301/f", "");
@@ -108,8 +113,9 @@ TEST_F(FileOpTest, CopyMovesContentOnly) {
     ASSERT_EQ(FSCopy("src", "dst", true), 0);
     EXPECT_FALSE(fs::exists("src"));
     EXPECT_EQ(Mode("dst"), 0600);
-    for (const auto &[src, dst] : {std::pair("none", "dst"), {"dst", "\u00E9/f/x"}, {".", "new"}})
+    for (const auto &[src, dst] : {std::pair("none", "dst"), {"dst", "\u00E9/f/x"}, {".", "new"}}) {
         EXPECT_EQ(FSCopy(src, dst, true), -1) << src;
+    }
     EXPECT_TRUE(ReadFile("dst") == text);  // no failure touched it
     EXPECT_TRUE(Logged("CopyFile: open(\u00E9/f/x): Not a directory (20)\n"));
 }
@@ -125,8 +131,9 @@ TEST_F(FileOpTest, RenameCodes) {
                  {"none", "dst", false, -2}, {"src", "dst", true, -2},  // not the real path
                  {"src", "full", false, -3}, {"src", std::string(256, 'n'), false, -100},
                  {"full", "to", false, 0},   {Full("src/\u00E9"), "dst", true, 0}};
-    for (const auto &c : cases)
+    for (const auto &c : cases) {
         EXPECT_EQ(FSRename(c.src, c.dst, c.exact), c.result) << c.src << " -> " << c.dst;
+    }
     EXPECT_EQ(ReadFile("dst/f"), "x");
 }
 
@@ -135,8 +142,10 @@ TEST_F(FileOpTest, MakeFolders) {
     WriteFile("e\u0301/file", "");
     fs::create_directory_symlink("e\u0301", "link");
     EXPECT_EQ(FSMKDir("a/b", false), -2);
-    for (const auto &[path, result] : {std::pair("", -1), {"file/x", -1}, {"a/b/", 0}, {"a/b", 0}})
+    for (const auto &[path, result] :
+         {std::pair("", -1), {"file/x", -1}, {"a/b/", 0}, {"a/b", 0}}) {
         EXPECT_EQ(FSMKDir(path, true), result) << path;
+    }
     EXPECT_EQ(FSMKDir("\u00E9/file", true), -1);
     EXPECT_TRUE(Logged("local file system is not directory '\u00E9/file' (1)\n"));
     EXPECT_EQ(FSMKDirFromRoot("a", "a/b"), -1);
@@ -157,8 +166,9 @@ TEST_F(FileOpTest, MakeFolders) {
         EXPECT_EQ(stop, path.c_str() + path.length() - std::strlen(c.rest)) << c.path;
     }
     EXPECT_TRUE(Logged("/work/\u00E9/file is symbolic link pointed to folder\n"));
-    for (const char *made : {"a/b/c/d", "new/a/c", "link/d", "e\u0301/x/y", "file/x/y"})
+    for (const char *made : {"a/b/c/d", "new/a/c", "link/d", "e\u0301/x/y", "file/x/y"}) {
         EXPECT_TRUE(fs::is_directory(made)) << made;
+    }
     const mode_t before = umask(077);
     EXPECT_EQ(FSMKDirP("exact/mode", nullptr, false, 0775), 0);
     EXPECT_EQ(FSMKDirP("exact/mask", nullptr, false, 0xFFFF), 0);
@@ -176,11 +186,13 @@ TEST_F(FileOpTest, RemoveTree) {
     WriteFile("bad/\xFF", "");
     const std::pair<const char *, int> cases[] = {
         {"\u00FC", 0}, {"\u00FC", 0}, {"", -1}, {"kept/f/x", -1}, {"bad", -3}};
-    for (const auto &[path, result] : cases)
+    for (const auto &[path, result] : cases) {
         EXPECT_EQ(FSRemove(path, true), result) << path;
+    }
     EXPECT_FALSE(fs::exists("u\u0308"));
-    for (const char *kept : {"kept/f", "bad/\xFE", "bad/\xFF"})
+    for (const char *kept : {"kept/f", "bad/\xFE", "bad/\xFF"}) {
         EXPECT_TRUE(fs::exists(kept)) << kept;
+    }
     const std::string failure = "FSPathMakeRef: -43\n";
     EXPECT_NE(Log().find(failure), std::string::npos);
     EXPECT_EQ(Log().find(failure), Log().rfind(failure)) << "the walk went on";
@@ -194,8 +206,9 @@ TEST_F(FileOpTest, ListFolder) {
     std::map<ustring, long long> found;  // ten times the type, and the size
     ASSERT_EQ(FSOpenDir(Full("\u00E9"), DIR_FLAG_STAT, handle), 0);
     EXPECT_EQ(handle.path, Full("\u00E9"));
-    for (errno = EIO; FSReadDir(handle, entry) == 1; errno = EIO)
+    for (errno = EIO; FSReadDir(handle, entry) == 1; errno = EIO) {
         found[entry.name] = 10LL * entry.type + (entry.type == 2 ? 0 : entry.size);
+    }
     EXPECT_EQ(found, (decltype(found){{".", 20}, {"..", 20}, {"file", 15}, {"link", 34}}));
     EXPECT_EQ(FSReadDir(handle, entry), 0);
     close(dirfd(handle.dir));
@@ -261,20 +274,23 @@ TEST_F(FileOpTest, OtherOperations) {
                                 {FSBaseName("/a/b/"), ""},       {text, "file"},
                                 {real, Full("e\u0301/file")},    {none, "none"},
                                 {FSParentPath(temp), "\u00E9"},  {FSParentPath(path), "none"}};
-    for (const auto &[result, expected] : texts)
+    for (const auto &[result, expected] : texts) {
         EXPECT_EQ(result, expected);
+    }
     for (const char *message :
          {"'\u00E9/made' (code: 17,", "link 'long' (code: 36,", "mkstemp(none/XXXXXX): No such",
           "FSChown: Failed to chown 'none' (code: 2,", "isMountPoint: Failed to get file system ",
-          "IsSupportLargeFile: Failed to get file system info 'none'. No such"})
+          "IsSupportLargeFile: Failed to get file system info 'none'. No such"}) {
         EXPECT_TRUE(Logged(message)) << message;
+    }
     FILE_INFO other[7];
     other[0].exists = true;
     other[1].size = other[2].mtime = other[3].type = 1;
     other[4].path = other[5].name = "x";
     other[6].mode = 1;  // no part of the comparison
-    for (const FILE_INFO &record : other)
+    for (const FILE_INFO &record : other) {
         EXPECT_EQ(record == FILE_INFO(), &record == other + 6) << &record - other;
+    }
 }
 
 }  // namespace

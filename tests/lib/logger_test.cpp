@@ -75,12 +75,14 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyteOfItsOwn) {
 }
 
 TEST_F(LoggerTest, DiscardsTheOldestOf49RotatedFiles) {
-    for (int i = 0; i < 49; ++i)
+    for (int i = 0; i < 49; ++i) {
         std::ofstream(Rotated(i)) << i;
+    }
     Log(ONE_BYTE_MORE);
     EXPECT_EQ(AfterStamp(ReadFile(Rotated(0))), ONE_BYTE_MORE);
-    for (int i = 1; i < 49; ++i)
+    for (int i = 1; i < 49; ++i) {
         EXPECT_EQ(ReadFile(Rotated(i)), std::to_string(i - 1));
+    }
     EXPECT_FALSE(fs::exists(Rotated(49)));
 }
 
@@ -113,8 +115,9 @@ TEST_F(LoggerTest, DropsMessagesAfterAFailedRotationUntilReload) {
     };
     fs::remove(m_path);
     check([] {});
-    for (int i = 0; i < 50; ++i)  // a single free name would be shifted down to log_0
+    for (int i = 0; i < 50; ++i) {  // a single free name would be shifted down to log_0
         fs::create_directories(Rotated(i) + "/full");
+    }
     check([] {});
     fs::remove_all(m_folder);
     check([this] { fs::create_directory(m_folder); });
@@ -131,13 +134,16 @@ TEST_F(LoggerTest, KeepsTheNewestMessagesOfEightThreadsWhole) {
                std::string(size_t(i % 17 == 0 ? LONGEST : i % 200), char('a' + t));
     };
     std::vector<std::thread> threads;
-    for (int t = 0; t < THREADS; ++t)
+    for (int t = 0; t < THREADS; ++t) {
         threads.emplace_back([=] {
-            for (int i = 0; i < MESSAGES; ++i)
+            for (int i = 0; i < MESSAGES; ++i) {
                 Log(message(t, i) + "\n");
+            }
         });
-    for (std::thread &thread : threads)
+    }
+    for (std::thread &thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(50, std::distance(fs::directory_iterator(m_folder), {}));
     int count = 0, torn = 0, next[THREADS] = {};
     for (int file = 48; file >= -1; --file) {
@@ -148,10 +154,11 @@ TEST_F(LoggerTest, KeepsTheNewestMessagesOfEightThreadsWhole) {
             int t = -1, i = -1;
             sscanf(AfterStamp(line).c_str(), "%d %d", &t, &i);
             const bool follows = t >= 0 && t < THREADS && (next[t] == 0 || next[t] == i);
-            if (follows && AfterStamp(line) == message(t, i))
+            if (follows && AfterStamp(line) == message(t, i)) {
                 next[t] = i + 1;
-            else
+            } else {
                 ++torn;
+            }
         }
     }
     EXPECT_EQ(0, torn);

@@ -40,9 +40,11 @@ std::string Find(const char *asked) {
         end = std::min(path.find('/', pos), path.size());
         std::string name = path.substr(pos, end - pos);
         std::error_code error;
-        for (const auto &entry : fs::directory_iterator(found, error))
-            if (SameName(entry.path().filename().c_str(), name.c_str()))
+        for (const auto &entry : fs::directory_iterator(found, error)) {
+            if (SameName(entry.path().filename().c_str(), name.c_str())) {
                 name = entry.path().filename();
+            }
+        }
         found += "/" + name;
     }
     return found;
@@ -72,8 +74,9 @@ int Create(const char *path, mode_t mode, fuse_file_info *file) {
 int List(const char *path, void *buffer, fuse_fill_dir_t fill, off_t, fuse_file_info *,
          fuse_readdir_flags) {
     std::error_code error;
-    for (const auto &entry : fs::directory_iterator(Find(path), error))
+    for (const auto &entry : fs::directory_iterator(Find(path), error)) {
         fill(buffer, entry.path().filename().c_str(), nullptr, 0, fuse_fill_dir_flags(0));
+    }
     return -error.value();
 }
 
@@ -129,8 +132,9 @@ fuse_operations Operations() {
 }  // namespace
 
 int main(int argc, char **argv) {
-    if (argc < 3)
+    if (argc < 3) {
         return 2;
+    }
     prctl(PR_SET_PDEATHSIG, SIGKILL);  // it must not outlive a test that crashes
     folder = argv[1];
     argv[1] = argv[0];

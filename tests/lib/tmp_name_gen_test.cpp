@@ -18,12 +18,14 @@ struct Generator : TmpNameGen {
 
 TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
     Generator gen;
-    for (int i = 0; i < 256; ++i)
+    for (int i = 0; i < 256; ++i) {
         gen.m_key[i] = static_cast<unsigned char>("Key"[i % 3]);
+    }
     TmpNameGen::rc4_init(gen.m_sbox, gen.m_key);
     // "Key" is a published test vector: eb9f77 81b734 and, without the restart, ca72a7.
-    for (const char *name : {"WVZTwrsQ", "lnIM_-bL", "FVonc5Qc"})
+    for (const char *name : {"WVZTwrsQ", "lnIM_-bL", "FVonc5Qc"}) {
         EXPECT_EQ(gen.name(), name);
+    }
     memset(gen.m_sbox, 0, sizeof(gen.m_sbox));
     EXPECT_EQ(gen.name(), "00000000");
 }
@@ -41,8 +43,9 @@ TEST(TmpNameGen, SeedsFromTheClock) {
 
 TEST(TmpNameGen, PathsAreTheFolderAndANewName) {
     std::set<std::string> paths;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         paths.insert(TmpNameGen::getInstance().getTmpPath("/tmp").c_str());
+    }
     EXPECT_EQ(paths.size(), 1000U);
     EXPECT_EQ(paths.begin()->rfind("/tmp/", 0), 0U);
     EXPECT_EQ(paths.begin()->size(), 13U);

@@ -104,8 +104,9 @@ TEST(UstringTest, SearchesFollowTheirRulesInEveryForm) {
                 << "'" << c.s << "' in '" << c.text << "' from " << c.pos;
         };
         check(c.s), check(ustring(c.s)), check(std::string(c.s));
-        if (std::string(c.s).size() < 2)  // a NUL char is an empty needle
+        if (std::string(c.s).size() < 2) {  // a NUL char is an empty needle
             check(*c.s);
+        }
     }
     const std::string filler(1000, 'a');  // long texts are searched in another way
     const ustring text(filler + "aab" + filler + "b");
@@ -162,8 +163,9 @@ TEST(UstringTest, EditsTakeAnySourceAndDropTheUtf16Form) {
     check("bcd", [](ustring &s) { s.assign(s, 1, 3); });
     check("abc", [](ustring &s) { s.assign(s.c_str_utf16(), 3); });
     ustring doubled('a');  // often enough for its buffer to move
-    for (int i = 0; i < 12; ++i)
+    for (int i = 0; i < 12; ++i) {
         doubled.append(doubled.c_str());
+    }
     expect_text(doubled, std::string(4096, 'a'));
 }
 

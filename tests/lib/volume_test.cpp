@@ -24,8 +24,9 @@ protected:
 };
 
 TEST_F(VolumeTest, FullVolume) {
-    if (!MountInMemory("size=64k"))
+    if (!MountInMemory("size=64k")) {
         GTEST_SKIP() << "this user cannot mount a small volume";
+    }
     WriteFile(m_folder / "tree/src", std::string(100000, 'x'));
     EXPECT_EQ(FSCopy(OnDisk("tree/src"), OnVolume("dst"), true), -2);
     EXPECT_TRUE(Logged("CopyFile: write: No space left on device (28)\n"));
@@ -35,8 +36,9 @@ TEST_F(VolumeTest, FullVolume) {
 }
 
 TEST_F(VolumeTest, RenameToAnotherVolume) {
-    if (!MountInMemory("size=1m"))
+    if (!MountInMemory("size=1m")) {
         GTEST_SKIP() << "this user cannot mount another volume";
+    }
     WriteFile(m_folder / "u\u0308/sub/e\u0301", "one");
     WriteFile(m_folder / "u\u0308/.hidden", "two");
     EXPECT_EQ(FSRename(OnDisk("\u00FC"), OnVolume("dst"), true), 0);
@@ -61,8 +63,9 @@ TEST_F(VolumeTest, RenameToAnotherVolume) {
 
 TEST_F(VolumeTest, MacRules) {
     const MacVolume mac(m_folder, m_volume);
-    if (!mac.mounted())
+    if (!mac.mounted()) {
         GTEST_SKIP() << "this user cannot mount a volume with FUSE";
+    }
     WriteFile(m_volume / "Foo", "");
     WriteFile(m_volume / "U\u0308ber/e\u0301", "");
     for (const bool exact : {false, true}) {
@@ -74,8 +77,9 @@ TEST_F(VolumeTest, MacRules) {
     FILE_INFO info;
     EXPECT_EQ(GetFileInfo(OnVolume("u\u0308ber/\u00C9"), info), 0);
     EXPECT_EQ(info.path, OnVolume("\u00DCber/\u00E9"));
-    for (const char *twin : {"twin", "TWIN"})  // as on a volume of this type that has both
+    for (const char *twin : {"twin", "TWIN"}) {  // as on a volume of this type that has both
         WriteFile(m_folder / twin, "");
+    }
     EXPECT_TRUE(IsFileExist(OnVolume("twin"), true));
     EXPECT_TRUE(IsFileExist(OnVolume("TWIN"), true));
     EXPECT_EQ(FSRename(OnVolume("foo"), OnVolume("bar"), true), -2);
@@ -96,8 +100,9 @@ std::vector<PackageEntry> Client(const std::string &build, const char *letter) {
 
 TEST_F(VolumeTest, InstallsOnAMac) {
     const MacVolume mac(m_folder, m_volume);
-    if (!mac.mounted())
+    if (!mac.mounted()) {
         GTEST_SKIP() << "this user cannot mount a volume with FUSE";
+    }
     UseHome("v");
     const fs::path resources = Service::GetRootLumarisResourceInstallPath().c_str();
     PlainService service;

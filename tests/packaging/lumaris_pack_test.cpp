@@ -149,8 +149,7 @@ TEST_F(LumarisPack, TheSameFolderGivesTheSameBytes) {
                     "mkdir -p Copy.app/Contents/Resources; cp -Rp Client.app/. Copy.app;"
                     "find Copy.app -exec touch -h -d 2001-01-01 {} +"),
               0);
-    for (const std::string options :
-         {"", "--format zip", "--filter xz", "--filter none"}) {
+    for (const std::string options : {"", "--format zip", "--filter xz", "--filter none"}) {
         EXPECT_EQ(
             Shell("export SOURCE_DATE_EPOCH=1000000000; rm -rf out first; "
                   "LC_ALL=C.UTF-8 TZ=Asia/Tokyo " +

@@ -36,11 +36,12 @@ QMap<QString, QString> ReadSource(const QString &code) {
     QXmlStreamReader xml(ReadText(QStringLiteral(TRANSLATIONS "/%1.ts").arg(code)));
     QString source;
     while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
+        if (xml.readNext() != QXmlStreamReader::StartElement) {
             continue;
-        if (xml.name() == QLatin1String("source"))
+        }
+        if (xml.name() == QLatin1String("source")) {
             source = xml.readElementText();
-        else if (xml.name() == QLatin1String("translation")) {
+        } else if (xml.name() == QLatin1String("translation")) {
             EXPECT_TRUE(xml.attributes().isEmpty()) << "unfinished: " << qPrintable(source);
             EXPECT_FALSE(messages.contains(source)) << "twice: " << qPrintable(source);
             messages[source] = xml.readElementText();
@@ -55,8 +56,9 @@ QString Form(QString text) {
     const QRegularExpression kept(QStringLiteral("%[0-9]|(\\.\\.\\.|:)(?= ?$)| $"));
     QStringList parts;
     auto match = kept.globalMatch(text.replace(QChar(0xFF1A), QLatin1Char(':')));
-    while (match.hasNext())
+    while (match.hasNext()) {
         parts += match.next().captured();
+    }
     parts.sort();  // a translation may turn placeholders around
     return (text.startsWith(QLatin1Char(' ')) ? text.left(1) : QString()) + parts.join(QString());
 }
@@ -70,8 +72,9 @@ protected:
 TEST_P(Catalogue, TranslatesEveryTextAndKeepsItsForm) {
     const QMap<QString, QString> messages = ReadSource(code);
     QSet<QString> english;
-    for (const StrTable::Row &row : StrTable::kRows)
+    for (const StrTable::Row &row : StrTable::kRows) {
         english.insert(QString::fromUtf8(row.text));
+    }
     EXPECT_EQ(english, QSet<QString>(messages.keyBegin(), messages.keyEnd()));
 
     const QStringList unchanged =
@@ -104,8 +107,9 @@ TEST_P(Catalogue, CompiledFormHoldsHashesAndMessagesOnly) {
         QByteArray value;
         items >> tag;
         ++count[tag];
-        if (tag != 1)  // the end of a message has no value
+        if (tag != 1) {  // the end of a message has no value
             items >> value;
+        }
         const std::string text = value.toStdString();
         EXPECT_TRUE(tag < 7 || text == (tag == 7 ? "global" : "")) << text;
     }
@@ -142,8 +146,9 @@ TEST_P(Catalogue, LoadsFastAndFitsTheDialog) {
         layout.beginLayout();
         layout.createLine();
         layout.endLayout();
-        for (const QGlyphRun &run : layout.glyphRuns())
+        for (const QGlyphRun &run : layout.glyphRuns()) {
             EXPECT_FALSE(run.glyphIndexes().contains(0)) << qPrintable(layout.text());
+        }
     }
 }
 
