@@ -34,6 +34,7 @@ universal() {
 }
 
 [ "$(uname -sm)" = "Linux x86_64" ] || die "the compiler for macOS runs on Linux on x86_64 only"
+command -v npm >/dev/null || PACKAGES+=(npm)
 install_packages "${PACKAGES[@]}" llvm-14 libplist-utils
 
 # This bundle is only looked at, so it carries the demo client's package.

@@ -45,7 +45,7 @@ private:
         out << quint32(0) << quint16(0) << quint16(0) << quint16(1) << quint32(0);  // the file
         out << quint16(1) << quint32('I') << quint16('I');
         out << quint32(content.size());
-        out.writeRawData(content.constData(), content.size());
+        out.writeRawData(content.constData(), static_cast<int>(content.size()));
         return compiled;
     }
 
