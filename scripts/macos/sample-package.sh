@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Packs the sample client alone, for a launcher bundle that is built to be tested and not shipped.
+# usage: sample-package.sh BUILD_FOLDER OUT
+set -euo pipefail
+[ $# -eq 2 ] || { echo "usage: sample-package.sh BUILD_FOLDER OUT" >&2; exit 2; }
+build=$1 out=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+contents=$work/Lumaris.app/Contents
+mkdir -p "$contents/MacOS" "$contents/Resources"
+cp "$build/samples/client/lumaris-backup-ui" "$contents/MacOS/"
+printf '[Version]\nmajor_version=2\nminor_version=5\nbuild_version=120\nicon_overlay_version=1\n' \
+    > "$contents/Resources/INFO"
+"$build/packaging/lumaris-pack/lumaris-pack" --major 2 --minor 5 --build 120 "$work/Lumaris.app" "$out"
