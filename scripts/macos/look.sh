@@ -47,7 +47,9 @@ look_at_bundle() {
         [ -s "$1/Contents/$file" ] || die "$1 lacks Contents/$file"
     done
     # It ends with 0 whatever it reads: what counts is that something comes out.
-    plistutil -i "$1/Contents/Info.plist" 2>/dev/null | grep -q '<key>CFBundleExecutable</key>' ||
+    rm -f "$OUT/Info.plist"
+    plistutil -i "$1/Contents/Info.plist" -o "$OUT/Info.plist" 2>/dev/null || true
+    grep -qa CFBundleExecutable "$OUT/Info.plist" 2>/dev/null ||
         die "$1/Contents/Info.plist is no valid property list"
     [ "$(sed -n '/LSMinimumSystemVersion/{n;s/[^0-9.]*//g;p}' "$1/Contents/Info.plist")" = "$MINIMUM" ] ||
         die "$1/Contents/Info.plist names another oldest system than the programs"
