@@ -288,7 +288,7 @@ int ustring::convert_from_data() const {
         u_strFromUTF8(to_icu(m_wdata), icu_capacity(m_wdata_cap), &len, m_data, -1, &status);
     }
     if (U_FAILURE(status)) {
-        warn("u_strFromUTF8", status, __LINE__ - 2);
+        warn("u_strFromUTF8", status, __LINE__ - 3);
         clear_wdata();
         return -1;
     }
@@ -325,7 +325,7 @@ int ustring::convert_from_wdata() {
         u_strToUTF8(m_data, icu_capacity(m_data_cap), &len, to_icu(m_wdata), -1, &status);
     }
     if (U_FAILURE(status)) {
-        warn("u_strToUTF8", status, __LINE__ - 2);
+        warn("u_strToUTF8", status, __LINE__ - 3);
         clear();
         return -1;
     }
@@ -604,7 +604,7 @@ ustring ustring::normalize(const ustring &src, normalization_form form) {
         len = unorm2_normalize(instance, text, -1, out, icu_capacity(result.m_wdata_cap), &status);
     }
     if (U_FAILURE(status)) {
-        warn("unorm2_normalize", status, __LINE__ - 2);
+        warn("unorm2_normalize", status, __LINE__ - 3);
         result.clear();
         return result;
     }
