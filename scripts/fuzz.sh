@@ -11,7 +11,7 @@ if [[ "${1:-}" =~ ^[0-9]+$ ]]; then
     shift
 fi
 targets=("$@")
-[ $# -gt 0 ] || targets=(extractor ustring config info)
+[ $# -gt 0 ] || targets=(extractor ustring info)
 
 install_packages "${PACKAGES[@]}" clang libclang-rt-dev llvm bubblewrap
 build fuzz

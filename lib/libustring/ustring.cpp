@@ -13,29 +13,12 @@
 #include <iostream>
 #include <new>
 #include <stdexcept>
-#include <string_view>
 #include <utility>
 
 namespace {
 
-/// Rows by the low half of a byte: neighbours in a set lie in different rows, so that setting one
-/// does not wait for the other, and clearing 32 bytes costs next to nothing.
-class byte_set {
-public:
-    explicit byte_set(std::string_view bytes) {
-        for (char c : bytes) {
-            row(c) = static_cast<uint16_t>(row(c) | bit(c));
-        }
-    }
-    bool contains(char c) const { return (m_rows[low(c)] & bit(c)) != 0; }
-
-private:
-    static unsigned low(char c) { return static_cast<unsigned char>(c) & 15U; }
-    static unsigned bit(char c) { return 1U << (static_cast<unsigned char>(c) >> 4); }
-    uint16_t &row(char c) { return m_rows[low(c)]; }
-
-    std::array<uint16_t, 16> m_rows{};
-};
+/// Units of the buffers on the stack that conversions try first; nearly all paths fit.
+constexpr int32_t kShortText = 1024;
 
 // ICU's UChar is char16_t here. It has the size and representation of unsigned short, and only
 // the separately compiled ICU reads or writes through these pointers.
@@ -45,10 +28,6 @@ UChar *to_icu(unsigned short *units) {
 
 const UChar *to_icu(const unsigned short *units) {
     return reinterpret_cast<const UChar *>(units);
-}
-
-int32_t icu_capacity(unsigned long cap) {
-    return static_cast<int32_t>(std::min<unsigned long>(cap, INT32_MAX));
 }
 
 void warn(const char *call, UErrorCode status, int line) {
@@ -91,6 +70,16 @@ unsigned long unit_count(const unsigned short *s, unsigned long n) {
     return count;
 }
 
+/// Whether all of `n` code units are ASCII and none of them is NUL.
+template <typename Unit>
+bool is_plain(const Unit *s, unsigned long n) {
+    int found = 0;  // bits of all units: without a branch the loop takes many at a time
+    for (unsigned long i = 0; i < n; ++i) {
+        found |= s[i] | (s[i] - 1);  // a NUL becomes negative
+    }
+    return found >= 0 && found < 0x80;
+}
+
 using fold_table = std::array<unsigned char, 256>;
 
 constexpr fold_table make_fold_table() {
@@ -104,62 +93,6 @@ constexpr fold_table make_fold_table() {
 /// Folds ASCII letters only: the bytes of longer UTF-8 sequences mean nothing by themselves.
 constexpr fold_table case_fold = make_fold_table();
 
-uint64_t load_word(const char *p) {
-    uint64_t word;
-    std::memcpy(&word, p, sizeof(word));
-    return word;
-}
-
-/// Whether all of `n` code units are ASCII and none of them is NUL.
-template <typename Unit>
-bool is_plain(const Unit *s, unsigned long n) {
-    constexpr uint64_t ones = sizeof(Unit) == 1 ? 0x0101010101010101 : 0x0001000100010001;
-    constexpr uint64_t high = sizeof(Unit) == 1 ? 0x8080808080808080 : 0xff80ff80ff80ff80;
-    constexpr unsigned long step = sizeof(uint64_t) / sizeof(Unit);
-    uint64_t found = 0;
-    unsigned long i = 0;
-    for (; i + step <= n; i += step) {
-        uint64_t word;
-        std::memcpy(&word, s + i, sizeof(word));
-        found |= word | (word - ones);  // a unit of 0 borrows and so sets its high bits
-    }
-    for (; i < n; ++i) {
-        found |= s[i] == 0 || s[i] > 0x7f ? high : 0;
-    }
-    return (found & high) == 0;
-}
-
-/// Longest text in code units that is converted in one go, on the stack; a longer one is measured
-/// first.
-constexpr unsigned long kShortText = 340;
-
-/// memcmp and strcmp promise no more than a sign; callers get the difference of the bytes.
-/// Everything before `end` can be read in both; a NUL ends both texts, should one lie there.
-int difference(const char *a, const char *b, unsigned long end) {
-    static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "the first byte is the lowest one");
-    constexpr uint64_t ones = 0x0101010101010101, high = 0x8080808080808080;
-    constexpr unsigned long step = sizeof(uint64_t);
-    unsigned long i = 0;
-    // The last word overlaps the one before, so that no byte is left over.
-    for (; end >= step && i < end; i += step) {
-        const unsigned long at = std::min(i, end - step);
-        const uint64_t x = load_word(a + at), y = load_word(b + at);
-        // Marks the lowest byte that is NUL or differs, and maybe others above it.
-        const uint64_t differ = x ^ y;
-        const uint64_t mark = ((x - ones) & ~x & high) | differ;
-        if (mark != 0) {
-            const int shift = __builtin_ctzll(mark) & ~7;
-            return static_cast<int>(x >> shift & 0xff) - static_cast<int>(y >> shift & 0xff);
-        }
-    }
-    for (; i < end; ++i) {
-        if (a[i] != b[i] || a[i] == '\0') {
-            return static_cast<unsigned char>(a[i]) - static_cast<unsigned char>(b[i]);
-        }
-    }
-    return 0;
-}
-
 int str_case_cmp(const char *a, const char *b) {
     for (;; ++a, ++b) {
         const int x = case_fold[static_cast<unsigned char>(*a)];
@@ -171,43 +104,6 @@ int str_case_cmp(const char *a, const char *b) {
 }
 
 }  // namespace
-
-namespace ustring_search {
-
-/// memmem never degrades to a quadratic search, but its preparation costs more than a path is long.
-unsigned long find_long(std::string_view text, std::string_view s, unsigned long pos) {
-    if (s.empty()) {
-        return pos;
-    }
-    const void *hit = memmem(text.data() + pos, text.size() - pos, s.data(), s.size());
-    return hit == nullptr
-               ? npos
-               : static_cast<unsigned long>(static_cast<const char *>(hit) - text.data());
-}
-
-unsigned long scan_forward(std::string_view text, std::string_view set, unsigned long pos,
-                           bool wanted) {
-    const byte_set bytes(set);
-    for (; pos < text.size(); ++pos) {
-        if (bytes.contains(text[pos]) == wanted) {
-            return pos;
-        }
-    }
-    return npos;
-}
-
-unsigned long scan_backward(std::string_view text, std::string_view set, unsigned long end,
-                            bool wanted) {
-    const byte_set bytes(set);
-    while (end-- > 0) {
-        if (bytes.contains(text[end]) == wanted) {
-            return end;
-        }
-    }
-    return npos;
-}
-
-}  // namespace ustring_search
 
 ustring::ustring() {
     init();
@@ -221,30 +117,17 @@ ustring::~ustring() {
 }
 
 void ustring::init() {
-    init_capacity(4);
-    clear();
-}
-
-/// The buffer that an empty string would have after an append, without the detour.
-void ustring::init(const char *s, unsigned long n) {
-    init_capacity(n >= 1 && n <= 3 ? 4 : grown(0, n));
-    std::memcpy(m_data, s, n);
-    m_data_len = n;
-    m_data[n] = '\0';
-    clear_wdata();
-}
-
-void ustring::init_capacity(unsigned long n) {
     m_data = nullptr;
     m_wdata = nullptr;
     m_data_cap = m_wdata_cap = 0;
-    realloc_data(n);
+    realloc_data(4);
     try {
         realloc_wdata(4);
     } catch (...) {
         std::free(m_data);  // no destructor runs for an object that was never complete
         throw;
     }
+    clear();
 }
 
 void ustring::realloc_data(unsigned long n) {
@@ -266,71 +149,78 @@ void ustring::clear_wdata() const {
 }
 
 int ustring::convert_from_data() const {
-    const unsigned long bytes = m_data_len;
-    if (is_plain(reinterpret_cast<const unsigned char *>(m_data), bytes)) {
-        realloc_wdata(bytes + 1);
-        std::copy(m_data, m_data + bytes, m_wdata);
-        m_wdata_len = bytes;
-        m_wdata[bytes] = 0;
-        return 0;
+    if (!is_plain(m_data, m_data_len)) {
+        return icu_from_data();
     }
+    realloc_wdata(m_data_len + 1);
+    std::copy(m_data, m_data + m_data_len, m_wdata);
+    m_wdata_len = m_data_len;
+    m_wdata[m_wdata_len] = 0;
+    return 0;
+}
+
+int ustring::convert_from_wdata() {
+    if (!is_plain(m_wdata, m_wdata_len)) {
+        return icu_from_wdata();
+    }
+    // Should the allocation throw, the UTF-16 form counts as unbuilt and the old text stands.
+    const unsigned long len = std::exchange(m_wdata_len, 0);
+    realloc_data(len + 1);
+    std::transform(m_wdata, m_wdata + len, m_data,
+                   [](unsigned short unit) { return static_cast<char>(unit); });
+    m_data_len = m_wdata_len = len;
+    m_data[m_data_len] = '\0';
+    return 0;
+}
+
+// ICU writes into a buffer on the stack. A text that does not fit in there is measured by that call
+// and converted once more, into the string's own buffer.
+
+int ustring::icu_from_data() const {
     UChar units[kShortText];
-    const bool fits = bytes < kShortText;  // no text has more units than bytes
     int32_t len = 0;
     UErrorCode status = U_ZERO_ERROR;
-    u_strFromUTF8(fits ? units : nullptr, fits ? kShortText : 0, &len, m_data,
-                  fits ? int32_t(std::strlen(m_data)) : -1, &status);
-    if (!fits || U_SUCCESS(status)) {
+    int line = __LINE__ + 1;
+    u_strFromUTF8(units, kShortText, &len, m_data, -1, &status);
+    if (status == U_BUFFER_OVERFLOW_ERROR) {
         realloc_wdata(static_cast<unsigned long>(len) + 1);
-    }
-    if (!fits) {
         status = U_ZERO_ERROR;
-        u_strFromUTF8(to_icu(m_wdata), icu_capacity(m_wdata_cap), &len, m_data, -1, &status);
+        line = __LINE__ + 1;
+        u_strFromUTF8(to_icu(m_wdata), len, &len, m_data, -1, &status);
+    } else if (U_SUCCESS(status)) {
+        realloc_wdata(static_cast<unsigned long>(len) + 1);
+        std::memcpy(m_wdata, units, static_cast<unsigned long>(len) * sizeof(*units));
     }
     if (U_FAILURE(status)) {
-        warn("u_strFromUTF8", status, __LINE__ - 3);
+        warn("u_strFromUTF8", status, line);
         clear_wdata();
         return -1;
-    }
-    if (fits) {
-        std::memcpy(m_wdata, units, static_cast<unsigned long>(len) * sizeof(*units));
     }
     m_wdata_len = static_cast<unsigned long>(len);
     m_wdata[m_wdata_len] = 0;
     return 0;
 }
 
-int ustring::convert_from_wdata() {
-    // Should the allocation throw, the UTF-16 form counts as unbuilt and the old text stands.
-    const unsigned long wdata_len = std::exchange(m_wdata_len, 0);
-    if (is_plain(m_wdata, wdata_len)) {
-        realloc_data(wdata_len + 1);
-        std::transform(m_wdata, m_wdata + wdata_len, m_data,
-                       [](unsigned short unit) { return static_cast<char>(unit); });
-        m_data_len = m_wdata_len = wdata_len;
-        m_data[m_data_len] = '\0';
-        return 0;
-    }
-    char bytes[kShortText * 3];
-    const bool fits = wdata_len < kShortText;  // a unit makes three bytes at most
+int ustring::icu_from_wdata() {
+    const unsigned long wdata_len = std::exchange(m_wdata_len, 0);  // as above
+    char text[kShortText];
     int32_t len = 0;
     UErrorCode status = U_ZERO_ERROR;
-    u_strToUTF8(fits ? bytes : nullptr, fits ? int32_t(sizeof(bytes)) : 0, &len, to_icu(m_wdata),
-                fits ? int32_t(unit_count(m_wdata, wdata_len)) : -1, &status);
-    if (!fits || U_SUCCESS(status)) {
+    int line = __LINE__ + 1;
+    u_strToUTF8(text, kShortText, &len, to_icu(m_wdata), -1, &status);
+    if (status == U_BUFFER_OVERFLOW_ERROR) {
         realloc_data(static_cast<unsigned long>(len) + 1);
-    }
-    if (!fits) {
         status = U_ZERO_ERROR;
-        u_strToUTF8(m_data, icu_capacity(m_data_cap), &len, to_icu(m_wdata), -1, &status);
+        line = __LINE__ + 1;
+        u_strToUTF8(m_data, len, &len, to_icu(m_wdata), -1, &status);
+    } else if (U_SUCCESS(status)) {
+        realloc_data(static_cast<unsigned long>(len) + 1);
+        std::memcpy(m_data, text, static_cast<unsigned long>(len));
     }
     if (U_FAILURE(status)) {
-        warn("u_strToUTF8", status, __LINE__ - 3);
+        warn("u_strToUTF8", status, line);
         clear();
         return -1;
-    }
-    if (fits) {
-        std::memcpy(m_data, bytes, static_cast<unsigned long>(len));
     }
     m_data_len = static_cast<unsigned long>(len);
     m_data[m_data_len] = '\0';
@@ -341,28 +231,6 @@ int ustring::convert_from_wdata() {
 // Assigning. A source inside the string's own buffer can only shorten the text, so it is moved in
 // place; clearing first would destroy it.
 
-ustring &ustring::assign_bytes(const char *s, unsigned long n) {
-    if (!points_into(s, m_data, m_data_cap)) {
-        clear();
-        return append_bytes(s, n);
-    }
-    if (n < m_data_len) {
-        keep(static_cast<unsigned long>(s - m_data), n);
-    }
-    return *this;
-}
-
-ustring &ustring::assign_units(const unsigned short *s, unsigned long n) {
-    if (!points_into<unsigned short>(s, m_wdata, m_wdata_cap)) {
-        clear();
-        return append_units(s, n);
-    }
-    std::memmove(m_wdata, s, n * sizeof(*s));
-    m_wdata_len = 0;
-    end_wdata_edit(n);
-    return *this;
-}
-
 ustring &ustring::assign(const ustring &s, unsigned long pos, unsigned long n) {
     if (&s == this) {
         return assign(substr(pos, n), 0, npos);
@@ -371,20 +239,28 @@ ustring &ustring::assign(const ustring &s, unsigned long pos, unsigned long n) {
     return append(s, pos, n);
 }
 
-ustring &ustring::assign(const char *s) {
-    return s == m_data ? *this : assign_bytes(s, std::strlen(s));
-}
-
 ustring &ustring::assign(const char *s, unsigned long n) {
-    return assign_bytes(s, strnlen(s, n));
-}
-
-ustring &ustring::assign(const unsigned short *s) {
-    return assign_units(s, unit_count(s, npos));
+    if (!points_into(s, m_data, m_data_cap)) {
+        clear();
+        return append(s, n);
+    }
+    n = strnlen(s, n);
+    if (n < m_data_len) {
+        keep(static_cast<unsigned long>(s - m_data), n);
+    }
+    return *this;
 }
 
 ustring &ustring::assign(const unsigned short *s, unsigned long n) {
-    return assign_units(s, unit_count(s, n));
+    if (!points_into<unsigned short>(s, m_wdata, m_wdata_cap)) {
+        clear();
+        return append(s, n);
+    }
+    n = unit_count(s, n);
+    std::memmove(m_wdata, s, n * sizeof(*s));
+    m_wdata_len = 0;
+    end_wdata_edit(n);
+    return *this;
 }
 
 ustring &ustring::assign(const std::string &s, unsigned long pos, unsigned long n) {
@@ -404,7 +280,15 @@ ustring &ustring::assign(unsigned short u, unsigned long n) {
 
 // Appending. A source inside the string's own buffer moves along when that buffer moves.
 
-ustring &ustring::append_bytes(const char *s, unsigned long n) {
+ustring &ustring::append(const ustring &s, unsigned long pos, unsigned long n) {
+    if (pos > s.m_data_len) {
+        throw std::out_of_range("substr");
+    }
+    return append(s.m_data + pos, std::min(n, s.m_data_len));
+}
+
+ustring &ustring::append(const char *s, unsigned long n) {
+    n = strnlen(s, n);
     const bool own = points_into(s, m_data, m_data_cap);
     const auto offset = own ? s - m_data : 0;
     realloc_data(grown(m_data_len, n));
@@ -415,51 +299,14 @@ ustring &ustring::append_bytes(const char *s, unsigned long n) {
     return *this;
 }
 
-ustring &ustring::append_units(const unsigned short *s, unsigned long n) {
+ustring &ustring::append(const unsigned short *s, unsigned long n) {
+    n = unit_count(s, n);
     const bool own = points_into<unsigned short>(s, m_wdata, m_wdata_cap);
     const auto offset = own ? s - m_wdata : 0;
     begin_wdata_edit(n);
     std::memcpy(m_wdata + m_wdata_len, own ? m_wdata + offset : s, n * sizeof(*s));
     end_wdata_edit(n);
     return *this;
-}
-
-/// Makes room for `n` units behind the UTF-16 form, which is built first.
-void ustring::begin_wdata_edit(unsigned long n) {
-    if (m_wdata_len == 0 && m_data_len != 0) {
-        convert_from_data();
-    }
-    realloc_wdata(grown(m_wdata_len, n));
-}
-
-/// Takes in the `n` units written behind the UTF-16 form and makes the UTF-8 text follow.
-void ustring::end_wdata_edit(unsigned long n) {
-    m_wdata_len += n;
-    m_wdata[m_wdata_len] = 0;
-    convert_from_wdata();
-}
-
-ustring &ustring::append(const ustring &s, unsigned long pos, unsigned long n) {
-    if (pos > s.m_data_len) {
-        throw std::out_of_range("substr");
-    }
-    return append(s.m_data + pos, std::min(n, s.m_data_len));
-}
-
-ustring &ustring::append(const char *s) {
-    return append_bytes(s, std::strlen(s));
-}
-
-ustring &ustring::append(const char *s, unsigned long n) {
-    return append_bytes(s, strnlen(s, n));
-}
-
-ustring &ustring::append(const unsigned short *s) {
-    return append_units(s, unit_count(s, npos));
-}
-
-ustring &ustring::append(const unsigned short *s, unsigned long n) {
-    return append_units(s, unit_count(s, n));
 }
 
 ustring &ustring::append(const std::string &s, unsigned long pos, unsigned long n) {
@@ -481,6 +328,21 @@ ustring &ustring::append(unsigned short u, unsigned long n) {
     std::fill_n(m_wdata + m_wdata_len, n, u);
     end_wdata_edit(n);
     return *this;
+}
+
+/// Makes room for `n` units behind the UTF-16 form, which is built first.
+void ustring::begin_wdata_edit(unsigned long n) {
+    if (m_wdata_len == 0 && m_data_len != 0) {
+        convert_from_data();
+    }
+    realloc_wdata(grown(m_wdata_len, n));
+}
+
+/// Takes in the `n` units written behind the UTF-16 form and makes the UTF-8 text follow.
+void ustring::end_wdata_edit(unsigned long n) {
+    m_wdata_len += n;
+    m_wdata[m_wdata_len] = 0;
+    convert_from_wdata();
 }
 
 const unsigned short *ustring::c_str_utf16() const {
@@ -530,46 +392,31 @@ void ustring::keep(unsigned long pos, unsigned long n) {
     clear_wdata();
 }
 
-void ustring::ltrim(const ustring &set) {
-    ltrim(set.m_data);
-}
-
-void ustring::ltrim(const char *set) {
+void ustring::ltrim(const bytes &set) {
     const unsigned long first = std::min(find_first_not_of(set, 0), m_data_len);
     keep(first, m_data_len - first);
 }
 
-void ustring::rtrim(const ustring &set) {
-    rtrim(set.m_data);
-}
-
-void ustring::rtrim(const char *set) {
+void ustring::rtrim(const bytes &set) {
     keep(0, find_last_not_of(set, npos) + 1);  // npos wraps around to 0: nothing is kept
 }
 
-void ustring::trim(const ustring &set) {
-    trim(set.m_data);
-}
-
-void ustring::trim(const char *set) {
+void ustring::trim(const bytes &set) {
     ltrim(set);
     rtrim(set);
 }
 
 int ustring::compare(const ustring &s, unsigned long n) const {
-    return ::difference(m_data, s.m_data, std::min({m_data_len + 1, s.m_data_len + 1, n}));
-}
-
-int ustring::difference(const ustring &s) const {
-    return ::difference(m_data, s.m_data, std::min(m_data_len, s.m_data_len) + 1);
+    for (unsigned long i = 0; i < n; ++i) {
+        if (m_data[i] != s.m_data[i] || m_data[i] == '\0') {
+            return static_cast<unsigned char>(m_data[i]) - static_cast<unsigned char>(s.m_data[i]);
+        }
+    }
+    return 0;
 }
 
 int ustring::compare(const ustring &a, const ustring &b, bool ignore_case) {
     return ignore_case ? str_case_cmp(a.m_data, b.m_data) : a.compare(b);
-}
-
-ustring ustring::normalize(normalization_form form) const {
-    return normalize(*this, form);
 }
 
 ustring ustring::normalize(const ustring &src, normalization_form form) {
@@ -578,33 +425,31 @@ ustring ustring::normalize(const ustring &src, normalization_form form) {
     if (src.empty()) {
         return result;
     }
-    // ASCII is the same in both forms, and nearly all paths are ASCII.
-    if (is_plain(reinterpret_cast<const unsigned char *>(src.m_data), src.m_data_len)) {
-        result.append_bytes(src.m_data, src.m_data_len);
-        return result;
+    if (is_plain(src.m_data, src.m_data_len)) {  // ASCII is the same in both forms
+        return result.append(src, 0, npos);
     }
-
     UErrorCode status = U_ZERO_ERROR;
+    int line = __LINE__ + 1;
     const UNormalizer2 *instance = unorm2_getInstance(nullptr, "nfc", modes[form], &status);
     if (U_FAILURE(status) || instance == nullptr) {
-        warn("unorm2_getInstance", status, __LINE__ - 2);
+        warn("unorm2_getInstance", status, line);
         return result;
     }
 
     const UChar *text = to_icu(src.c_str_utf16());
-    UChar units[4 * kShortText];  // few texts grow to more than that; those are measured first
-    int32_t len = unorm2_normalize(instance, text, -1, units, int32_t(std::size(units)), &status);
-    const bool fits = U_SUCCESS(status) && len < int32_t(std::size(units));
+    UChar units[kShortText];
+    line = __LINE__ + 1;
+    int32_t len = unorm2_normalize(instance, text, -1, units, kShortText, &status);
     result.realloc_wdata(static_cast<unsigned long>(len) + 1);
-    UChar *out = to_icu(result.m_wdata);
-    if (fits) {
-        std::memcpy(out, units, static_cast<unsigned long>(len) * sizeof(*units));
-    } else {
+    if (status == U_BUFFER_OVERFLOW_ERROR) {
         status = U_ZERO_ERROR;
-        len = unorm2_normalize(instance, text, -1, out, icu_capacity(result.m_wdata_cap), &status);
+        line = __LINE__ + 1;
+        unorm2_normalize(instance, text, -1, to_icu(result.m_wdata), len, &status);
+    } else if (U_SUCCESS(status)) {
+        std::memcpy(result.m_wdata, units, static_cast<unsigned long>(len) * sizeof(*units));
     }
     if (U_FAILURE(status)) {
-        warn("unorm2_normalize", status, __LINE__ - 3);
+        warn("unorm2_normalize", status, line);
         result.clear();
         return result;
     }
@@ -624,43 +469,8 @@ bool ustring::is_valid(const ustring &s) {
     return status != U_INVALID_CHAR_FOUND;
 }
 
-void swap(ustring &a, ustring &b) {
-    a.swap(b);
-}
-
-namespace {
-
-template <typename T>
-ustring joined(const ustring &a, T b) {
-    ustring result(a);
-    result += b;
-    return result;
-}
-
-}  // namespace
-
-ustring operator+(const ustring &a, const ustring &b) {
-    return joined<const ustring &>(a, b);
-}
-
-ustring operator+(const ustring &a, const char *b) {
-    return joined(a, b);
-}
-
-ustring operator+(const ustring &a, char b) {
-    return joined(a, b);
-}
-
-ustring operator+(const ustring &a, const unsigned short *b) {
-    return joined(a, b);
-}
-
-ustring operator+(const ustring &a, unsigned short b) {
-    return joined(a, b);
-}
-
 std::ostream &operator<<(std::ostream &out, const ustring &s) {
-    return out << bytes_of(s);
+    return out << ustring::bytes(s);
 }
 
 std::istream &operator>>(std::istream &in, ustring &s) {

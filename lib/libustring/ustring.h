@@ -1,12 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <cstring>
 #include <istream>
 #include <ostream>
 #include <string>
 #include <string_view>
-
-#include "ustring-search.h"
 
 /// Unicode string of all non-GUI code.
 ///
@@ -27,9 +26,17 @@ public:
     /// Canonical forms of Unicode Standard Annex #15.
     enum normalization_form { NFC = 0, NFD = 1 };
 
+    /// What a search looks for or a trim takes away: bytes that stay with the caller.
+    struct bytes : std::string_view {
+        bytes(const ustring &s) : std::string_view(s.m_data, s.m_data_len) {}
+        bytes(const std::string &s) : std::string_view(s) {}
+        bytes(const char *s) : std::string_view(s) {}
+        bytes(const char &c) : std::string_view(&c, c == '\0' ? 0 : 1) {}  // a NUL is no byte
+    };
+
     ustring();
-    ustring(const ustring &s) { init(s.m_data, strnlen(s.m_data, s.m_data_len)); }
-    ustring(const char *s) { init(s, std::strlen(s)); }          // UTF-8
+    ustring(const ustring &s) : ustring() { append(s, 0, npos); }
+    ustring(const char *s) : ustring() { append(s); }            // UTF-8
     ustring(const unsigned short *s) : ustring() { append(s); }  // UTF-16, 0-terminated
     ustring(const std::string &s) : ustring() { append(s, 0, npos); }
     ustring(char c) : ustring() { append(c, 1); }
@@ -39,9 +46,9 @@ public:
     // and stop at a NUL; so do the std::string forms. Positions beyond the source throw
     // std::out_of_range. UTF-16 that is not well-formed empties the string.
     ustring &assign(const ustring &s, unsigned long pos, unsigned long n);
-    ustring &assign(const char *s);
+    ustring &assign(const char *s) { return assign(s, std::strlen(s)); }
     ustring &assign(const char *s, unsigned long n);
-    ustring &assign(const unsigned short *s);
+    ustring &assign(const unsigned short *s) { return assign(s, npos); }
     ustring &assign(const unsigned short *s, unsigned long n);
     ustring &assign(const std::string &s, unsigned long pos, unsigned long n);
     ustring &assign(char c, unsigned long n);
@@ -55,9 +62,9 @@ public:
     ustring &operator=(unsigned short u) { return assign(u, 1); }
 
     ustring &append(const ustring &s, unsigned long pos, unsigned long n);
-    ustring &append(const char *s);
+    ustring &append(const char *s) { return append(s, std::strlen(s)); }
     ustring &append(const char *s, unsigned long n);
-    ustring &append(const unsigned short *s);
+    ustring &append(const unsigned short *s) { return append(s, npos); }
     ustring &append(const unsigned short *s, unsigned long n);
     ustring &append(const std::string &s, unsigned long pos, unsigned long n);
     ustring &append(char c, unsigned long n);
@@ -90,51 +97,39 @@ public:
     ustring substr(unsigned long pos, unsigned long n) const;
 
     void replace(char from, char to);
-    /// `set` is a set of bytes, not of characters.
-    void ltrim(const ustring &set);
-    void ltrim(const char *set);
-    void rtrim(const ustring &set);
-    void rtrim(const char *set);
-    void trim(const ustring &set);
-    void trim(const char *set);
+    // `set` is a set of bytes, not of characters.
+    void ltrim(const bytes &set);
+    void rtrim(const bytes &set);
+    void trim(const bytes &set);
 
-    unsigned long find(const std::string &s, unsigned long pos) const;
-    unsigned long find(const char *s, unsigned long pos) const;
-    unsigned long find(const ustring &s, unsigned long pos) const;
-    unsigned long find(char c, unsigned long pos) const;
-
-    unsigned long rfind(const std::string &s, unsigned long pos) const;
-    unsigned long rfind(const char *s, unsigned long pos) const;
-    unsigned long rfind(const ustring &s, unsigned long pos) const;
-    unsigned long rfind(char c, unsigned long pos) const;
-
-    unsigned long find_first_of(const std::string &set, unsigned long pos) const;
-    unsigned long find_first_of(const char *set, unsigned long pos) const;
-    unsigned long find_first_of(const ustring &set, unsigned long pos) const;
-    unsigned long find_first_of(char c, unsigned long pos) const;
-
-    unsigned long find_first_not_of(const std::string &set, unsigned long pos) const;
-    unsigned long find_first_not_of(const char *set, unsigned long pos) const;
-    unsigned long find_first_not_of(const ustring &set, unsigned long pos) const;
-    unsigned long find_first_not_of(char c, unsigned long pos) const;
-
-    unsigned long find_last_of(const std::string &set, unsigned long pos) const;
-    unsigned long find_last_of(const char *set, unsigned long pos) const;
-    unsigned long find_last_of(const ustring &set, unsigned long pos) const;
-    unsigned long find_last_of(char c, unsigned long pos) const;
-
-    unsigned long find_last_not_of(const std::string &set, unsigned long pos) const;
-    unsigned long find_last_not_of(const char *set, unsigned long pos) const;
-    unsigned long find_last_not_of(const ustring &set, unsigned long pos) const;
-    unsigned long find_last_not_of(char c, unsigned long pos) const;
+    // The searches are those of std::string_view, but nothing, not even an empty text, is found at
+    // or behind the end. Inline, as there: in a path the call would cost as much as the search.
+    unsigned long find(const bytes &s, unsigned long pos) const {
+        return pos >= m_data_len ? npos : bytes(*this).find(s, pos);
+    }
+    unsigned long rfind(const bytes &s, unsigned long pos) const {
+        return empty() ? npos : bytes(*this).rfind(s, std::min(pos, m_data_len - 1));
+    }
+    unsigned long find_first_of(const bytes &set, unsigned long pos) const {
+        return bytes(*this).find_first_of(set, pos);
+    }
+    unsigned long find_first_not_of(const bytes &set, unsigned long pos) const {
+        return bytes(*this).find_first_not_of(set, pos);
+    }
+    unsigned long find_last_of(const bytes &set, unsigned long pos) const {
+        return bytes(*this).find_last_of(set, pos);
+    }
+    unsigned long find_last_not_of(const bytes &set, unsigned long pos) const {
+        return bytes(*this).find_last_not_of(set, pos);
+    }
 
     /// Difference of the first pair of bytes (as unsigned values) that differs; 0 when equal.
-    int compare(const ustring &s) const;
+    int compare(const ustring &s) const { return compare(s, npos); }
     int compare(const ustring &s, unsigned long n) const;
     /// With `ignore_case`, ASCII letters fold; bytes of longer UTF-8 sequences do not.
     static int compare(const ustring &a, const ustring &b, bool ignore_case);
 
-    ustring normalize(normalization_form form) const;
+    ustring normalize(normalization_form form) const { return normalize(*this, form); }
     /// Empty when `src` is empty or not valid UTF-8 (a warning goes to standard error then).
     static ustring normalize(const ustring &src, normalization_form form);
     static bool is_valid(const ustring &s);
@@ -143,22 +138,17 @@ private:
     friend struct ustring_test_access;
 
     void init();
-    void init(const char *s, unsigned long n);
-    void init_capacity(unsigned long n);
     void realloc_data(unsigned long n);
     void realloc_wdata(unsigned long n) const;
     void clear_data();
     void clear_wdata() const;
     int convert_from_data() const;
     int convert_from_wdata();
-    ustring &assign_bytes(const char *s, unsigned long n);
-    ustring &assign_units(const unsigned short *s, unsigned long n);
-    ustring &append_bytes(const char *s, unsigned long n);
-    ustring &append_units(const unsigned short *s, unsigned long n);
+    int icu_from_data() const;
+    int icu_from_wdata();
     void begin_wdata_edit(unsigned long n);
     void end_wdata_edit(unsigned long n);
     void keep(unsigned long pos, unsigned long n);
-    int difference(const ustring &s) const;
 
     char *m_data;
     unsigned long m_data_len;
@@ -168,70 +158,34 @@ private:
     mutable unsigned long m_wdata_cap;
 };
 
-// The four argument forms of a search differ only in where their bytes lie.
-
-inline std::string_view bytes_of(const ustring &s) {
-    return {s.c_str(), s.length()};
+inline void swap(ustring &a, ustring &b) {
+    a.swap(b);
 }
 
-/// A NUL stands for no byte at all.
-inline std::string_view bytes_of(const char &c) {
-    return {&c, c == '\0' ? 0UL : 1UL};
+inline ustring operator+(const ustring &a, const ustring &b) {
+    return ustring(a) += b;
 }
 
-inline std::string_view bytes_of(const std::string &s) {
-    return s;
+inline ustring operator+(const ustring &a, const char *b) {
+    return ustring(a) += b;
 }
 
-inline std::string_view bytes_of(const char *s) {
-    return s;
+inline ustring operator+(const ustring &a, char b) {
+    return ustring(a) += b;
 }
 
-#define DEFINE_SEARCH(name)                                                             \
-    inline unsigned long ustring::name(const std::string &s, unsigned long pos) const { \
-        return ustring_search::name(bytes_of(*this), bytes_of(s), pos);                 \
-    }                                                                                   \
-    inline unsigned long ustring::name(const char *s, unsigned long pos) const {        \
-        return ustring_search::name(bytes_of(*this), bytes_of(s), pos);                 \
-    }                                                                                   \
-    inline unsigned long ustring::name(const ustring &s, unsigned long pos) const {     \
-        return ustring_search::name(bytes_of(*this), bytes_of(s), pos);                 \
-    }                                                                                   \
-    inline unsigned long ustring::name(char c, unsigned long pos) const {               \
-        return ustring_search::name(bytes_of(*this), bytes_of(c), pos);                 \
-    }
+inline ustring operator+(const ustring &a, const unsigned short *b) {
+    return ustring(a) += b;
+}
 
-DEFINE_SEARCH(find)
-DEFINE_SEARCH(rfind)
-DEFINE_SEARCH(find_first_of)
-DEFINE_SEARCH(find_first_not_of)
-DEFINE_SEARCH(find_last_of)
-DEFINE_SEARCH(find_last_not_of)
-#undef DEFINE_SEARCH
-
-void swap(ustring &a, ustring &b);
-
-ustring operator+(const ustring &a, const ustring &b);
-ustring operator+(const ustring &a, const char *b);
-ustring operator+(const ustring &a, char b);
-ustring operator+(const ustring &a, const unsigned short *b);
-ustring operator+(const ustring &a, unsigned short b);
+inline ustring operator+(const ustring &a, unsigned short b) {
+    return ustring(a) += b;
+}
 
 // The order of `compare`, of which only the sign matters here.
 
-/// Equal bytes; texts that end at a NUL within them may be equal without.
-inline bool same_bytes(const ustring &a, const ustring &b) {
-    return a.length() == b.length() && std::memcmp(a.c_str(), b.c_str(), a.length()) == 0;
-}
-
-inline int ustring::compare(const ustring &s) const {
-    return same_bytes(*this, s) ? 0 : difference(s);
-}
-
-// The first bytes or the lengths often tell, and memcmp is faster than strcmp.
-
 inline bool operator==(const ustring &a, const ustring &b) {
-    return same_bytes(a, b) || (a[0] == b[0] && std::strcmp(a.c_str(), b.c_str()) == 0);
+    return std::strcmp(a.c_str(), b.c_str()) == 0;
 }
 
 inline bool operator!=(const ustring &a, const ustring &b) {
@@ -239,8 +193,7 @@ inline bool operator!=(const ustring &a, const ustring &b) {
 }
 
 inline bool operator<(const ustring &a, const ustring &b) {
-    const auto x = static_cast<unsigned char>(a[0]), y = static_cast<unsigned char>(b[0]);
-    return x != y ? x < y : !same_bytes(a, b) && std::strcmp(a.c_str(), b.c_str()) < 0;
+    return std::strcmp(a.c_str(), b.c_str()) < 0;
 }
 
 inline bool operator>(const ustring &a, const ustring &b) {
