@@ -26,22 +26,22 @@ TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
     for (const char *name : {"WVZTwrsQ", "lnIM_-bL", "FVonc5Qc"}) {
         EXPECT_EQ(gen.name(), name);
     }
+    gen.m_key[0] = 0;  // no seed at all
+    TmpNameGen::rc4_init(gen.m_sbox, gen.m_key);
+    EXPECT_GT(std::set<unsigned char>(gen.m_key, gen.m_key + 256).size(), 100U);
     memset(gen.m_sbox, 0, sizeof(gen.m_sbox));
     EXPECT_EQ(gen.name(), "00000000");
 }
 
-TEST(TmpNameGen, SeedsFromTheClock) {
+TEST(TmpNameGen, SeedsFromTheClockAndDrawsNewPaths) {
     Generator gen;
     usleep(10);  // into another microsecond
-    Generator same;
+    Generator later;
     const std::string seed(reinterpret_cast<const char *>(gen.m_key));
     EXPECT_NEAR(static_cast<double>(time(nullptr)), std::stod(seed), 10);
-    EXPECT_NE(seed, reinterpret_cast<const char *>(same.m_key));  // the microseconds follow
-    TmpNameGen::rc4_init(same.m_sbox, gen.m_key);
-    EXPECT_EQ(same.name(), gen.name());
-}
-
-TEST(TmpNameGen, PathsAreTheFolderAndANewName) {
+    EXPECT_NE(seed, reinterpret_cast<const char *>(later.m_key));  // the microseconds follow
+    TmpNameGen::rc4_init(later.m_sbox, gen.m_key);
+    EXPECT_EQ(later.name(), gen.name());
     std::set<std::string> paths;
     for (int i = 0; i < 1000; ++i) {
         paths.insert(TmpNameGen::getInstance().getTmpPath("/tmp").c_str());
