@@ -4,8 +4,7 @@
 
 #include <QCoreApplication>
 #include <QTranslator>
-
-int qInitResources_texts();
+#include <tuple>
 
 namespace {
 
@@ -22,10 +21,7 @@ public:
 // Rows spread over the table, some of them neighbours: callers use the numbers.
 TEST(StrTable, RowsAndKeys) {
     StrTable::InitStrTable();
-    const struct {
-        int id;
-        const char *key, *text;
-    } cases[] = {
+    const std::tuple<int, const char *, const char *> cases[] = {
         {0, "tray_help", "Help"},
         {38, "tray_main_app", "Open Lumaris Backup"},
         {39, "desc_lmrs_env_preparation_done", "Lumaris Backup is ready."},
@@ -38,16 +34,13 @@ TEST(StrTable, RowsAndKeys) {
         {259, "setting_filter_table_desc", "Matching files are not backed up."},
         {-1, "tray_hel", ""},
     };
-    for (const auto &row : cases) {
-        EXPECT_EQ(row.id, StrTable::LookupStrID(QString::fromLatin1(row.key).toUpper())) << row.key;
-        EXPECT_EQ(row.text, StrTable::LoadStr(row.id).toStdString()) << row.key;
+    for (const auto &[id, key, text] : cases) {
+        EXPECT_EQ(id, StrTable::LookupStrID(QString::fromLatin1(key).toUpper())) << key;
+        EXPECT_EQ(text, StrTable::LoadStr(id).toStdString()) << key;
     }
     EXPECT_TRUE(StrTable::LoadStr(260).isEmpty());
-}
 
-TEST(StrTable, TranslatesAtTheMomentOfTheCall) {
-    StrTable::InitStrTable();
-    int argc = 0;
+    int argc = 0;  // the translator of the moment decides
     QCoreApplication app(argc, nullptr);
     EscapingTranslator translator;
     QCoreApplication::installTranslator(&translator);
