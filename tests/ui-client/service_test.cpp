@@ -75,15 +75,32 @@ TEST_F(ServiceTest, Versions) {
 
 // What a kill in an upgrade leaves, and then a package that cannot be extracted.
 TEST_F(ServiceTest, TwoFailuresInARow) {
-    WriteFile(app / "partial", "x");
-    WriteFile(lumaris / "Lumaris.app_tmp/Contents/MacOS/lumaris-backup-ui", "old");
-    EXPECT_EQ(-1, service.PrepareUserEnv());
-    EXPECT_EQ(
-        "Lumaris.app/ Lumaris.app/Contents/ Lumaris.app/Contents/MacOS/ "
-        "Lumaris.app/Contents/MacOS/lumaris-backup-ui=old",
-        Tree(lumaris));
-    EXPECT_TRUE(Logged("Failed to extract package, rollback to old installation\n")) << Log();
-    EXPECT_TRUE(Logged("[WARNING] lumaris-service(")) << Log();
+    const std::string client = "Contents/MacOS/lumaris-backup-ui", info = "Contents/Resources/INFO";
+    const struct {
+        const char *bundle[2], *backup[2], *restored;  // what executable and INFO hold
+    } cases[] = {{{"", ""}, {"old", ""}, "old"},
+                 {{"cut", ""}, {"old", "1"}, "old"},
+                 {{"own", "1"}, {"old", "1"}, "own"},
+                 {{"own", ""}, {"old", ""}, "own"}};
+    for (const auto &row : cases) {
+        fs::remove_all(lumaris);
+        fs::resize_file(root / "log", 0);
+        WriteFile(app / "partial", "x");
+        for (const auto &[bundle, files] :
+             {std::pair(app, row.bundle), std::pair(lumaris / "Lumaris.app_tmp", row.backup)}) {
+            for (int i = 0; i < 2; ++i) {
+                if (*files[i] != '\0') {
+                    WriteFile(bundle / (i == 0 ? client : info), files[i]);
+                }
+            }
+        }
+        EXPECT_EQ(-1, service.PrepareUserEnv());
+        EXPECT_EQ(row.restored, ReadFile(app / client));
+        EXPECT_EQ(row.restored == std::string("own"), fs::exists(app / "partial"));
+        EXPECT_EQ(row.restored == std::string("own"), fs::exists(lumaris / "Lumaris.app_tmp"));
+        EXPECT_NE(row.restored == std::string("own"), Logged("[WARNING] lumaris-service("));
+        EXPECT_TRUE(Logged("Failed to extract package, rollback to old installation\n")) << Log();
+    }
 }
 
 TEST_F(ServiceTest, NoPlaceForTheBundle) {

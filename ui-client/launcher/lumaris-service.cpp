@@ -67,26 +67,32 @@ int BackupApp(const ustring &app, ustring &backup) {
     return -1;
 }
 
-bool HasClient(const ustring &bundle) {
-    return access((bundle + "/" + kClientExecutable).c_str(), F_OK) == 0;
+/// 2 for a whole client. A package ends with the executable and then INFO, so an extraction that
+/// was cut short lacks INFO, or both and then gives 0.
+int Completeness(const ustring &bundle) {
+    const auto has = [&bundle](const std::string &file) {
+        return access((bundle + "/" + file).c_str(), F_OK) == 0;
+    };
+    return !has(kClientExecutable) ? 0 : has(std::string(kResources) + "/" + kInfoFile) ? 2 : 1;
 }
 
 /// After two failures in a row the bundle under the name can be a partial one, and the last whole
 /// client a backup of the first: that backup takes its place. Nothing happens while the bundle has
 /// its client.
 void RestoreClient(const ustring &app) {
-    if (HasClient(app)) {
-        return;
-    }
+    ustring best = app;
     for (int index = 0; index < kBackupNames; ++index) {
         const ustring backup = GetAppBackupDir(app, index);
-        if (HasClient(backup)) {
-            MSG_WARNING("no client in '%s', restoring '%s'\n", app.c_str(), backup.c_str());
-            if (FSRemove(app, false) != 0 || FSRename(backup, app, false) != 0) {
-                MSG_ERROR("failed to restore '%s' from '%s'\n", app.c_str(), backup.c_str());
-            }
-            return;
+        if (Completeness(backup) > Completeness(best)) {
+            best = backup;
         }
+    }
+    if (best == app) {
+        return;
+    }
+    MSG_WARNING("no whole client in '%s', restoring '%s'\n", app.c_str(), best.c_str());
+    if (FSRemove(app, false) != 0 || FSRename(best, app, false) != 0) {
+        MSG_ERROR("failed to restore '%s' from '%s'\n", app.c_str(), best.c_str());
     }
 }
 
