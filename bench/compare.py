@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """Measures the launcher beside what one would use instead; scripts/bench.sh prepares and calls it.
 
 usage: compare.py BUILD WORK OTHER_VOLUME [CASE...]

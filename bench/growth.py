@@ -1,22 +1,25 @@
+# SPDX-License-Identifier: MIT
 """How cost grows with entries and with depth: a table, and plots beside the page."""
 
 import statistics
 from functools import partial
 from pathlib import Path
 
-import matplotlib  # type: ignore[import] # Debian's package has no stubs
 from cases import dialog
 from material import OPERATION, WORK, make_chain, small_entries
 from measure import Pair, Row, duration, seconds, turns
-
-matplotlib.use("svg")
-from matplotlib import pyplot  # noqa: E402 (the kind of output comes first)
 
 ENTRIES = (1000, 10000, 100000)
 DEPTHS = (10, 250, 500, 1000)
 
 
 def draw(path: Path, title: str, axis: str, lines: dict[str, list[tuple[int, float]]]) -> None:
+    # Not earlier: a program's peak memory begins at that of the process that starts it.
+    import matplotlib  # type: ignore[import] # Debian's package has no stubs
+
+    matplotlib.use("svg")
+    from matplotlib import pyplot
+
     matplotlib.rcParams["svg.hashsalt"] = "lumaris"  # the same file for the same figures
     figure, plot = pyplot.subplots(figsize=(5, 3))
     for name, points in lines.items():

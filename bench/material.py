@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What is measured on. Everything lies in the work folder and is made when the first case needs it."""
 
 import os

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Compares formats and compression of the package on one bundle, side by side: size, the time to
 # pack, to count and to install it, and that time over what bsdtar takes for the same file. Then it
 # damages packages of a small client, bit by bit and cut by cut, and counts what is installed.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Runs programs in turns and tells what they cost."""
 
 import json

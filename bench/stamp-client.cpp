@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A client that only tells when it was started: it writes the time to the pipe "started" in the
 // home folder, if somebody reads it, and ends.
 

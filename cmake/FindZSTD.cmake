@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The Zstandard library, as ZSTD::ZSTD.
 find_path(ZSTD_INCLUDE_DIR zstd.h)
 find_library(ZSTD_LIBRARY zstd)

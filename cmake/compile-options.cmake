@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Options that hold for every target of the project.
 
 add_compile_options(-Wall -Wextra -Wshadow -Wformat=2 -Wconversion -Wsign-conversion

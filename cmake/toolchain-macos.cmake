@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Compiles and links for macOS on a Linux machine, with what scripts/macos.sh lays out in the folder
 # LUMARIS_MACOS_KIT: a compiler, headers, and stubs of the libraries in place of the libraries.
 # LUMARIS_MACOS_PROCESSOR is x86_64 or aarch64.

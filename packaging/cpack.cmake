@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What `cpack` makes of the installed files: a disk image with the launcher, or a Debian package with
 # the launcher and the tools.
 set(CPACK_PACKAGE_NAME lumaris-launcher)

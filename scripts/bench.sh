@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Measures the launcher (release build) beside what one would use instead: prints one table and
 # writes it to docs/performance.md. For figures worth keeping the machine has nothing else to do.
 # usage: scripts/bench.sh [CASE...]     CASE: a part of a case's title; only printed then

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Checks the formatting of the C++ and Python sources (clang-format, black) and runs the static
 # analysis (clang-tidy, pyflakes, mypy, shellcheck).
 # usage: scripts/check-format.sh [--fix]     --fix: formats the sources instead
@@ -15,6 +16,9 @@ if [ "${1:-}" = --fix ]; then
     black -q -l 100 "${python[@]}"
     exit
 fi
+without_licence=$(git grep -L 'SPDX-License-Identifier: MIT' -- '*.cpp' '*.h' '*.py' '*.sh' '*.cmake' \
+    '*CMakeLists.txt')
+[ -z "$without_licence" ] || die "no SPDX line: $without_licence"
 clang-format-16 --dry-run --Werror "${sources[@]}"
 say "format: ${#sources[@]} files are as clang-format leaves them"
 black -q -l 100 --check "${python[@]}"
@@ -27,6 +31,6 @@ say "shell: ${#shell[@]} scripts pass shellcheck"
 # The database of the development build says how each file is compiled; moc's output is needed too.
 build dev
 mapfile -t units < <(git ls-files 'lib/*.cpp' 'libcommon/*.cpp' 'ui-client/*.cpp' 'packaging/*.cpp' \
-    'samples/*.cpp' 'scripts/*.cpp' | grep -v '_mac\.cpp$')
+    'samples/*.cpp' 'scripts/*.cpp' 'bench/*.cpp' 'tests/*.cpp' | grep -v '_mac\.cpp$')
 printf '%s\n' "${units[@]}" | xargs -P "$(nproc)" -n 4 clang-tidy -p build --quiet 2>/dev/null
 say "analysis: ${#units[@]} files pass clang-tidy"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Builds the launcher and shows, act by act, what it does with a real package in a fresh home folder.
 # usage: scripts/demo.sh [--preset PRESET] [ACT...]     ACT: 1 to 7, or "languages"; default 1 to 7
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Runs the fuzz targets of tests/fuzz, as many at once as there are cores. Earlier findings are
 # replayed first; what is found now is kept in build-fuzz/findings.
 # usage: scripts/fuzz.sh [SECONDS] [TARGET...]     default: 60 seconds for each of the targets

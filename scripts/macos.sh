@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Compiles and links the launcher and lumaris-pack for macOS, for both processors, joins them into
 # universal programs, stages LumarisLauncher.app and looks at what came out. All of it on Linux:
 # built and linked here, run nowhere yet. Everything lies in build-macos.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # How the sanitizers report; sourced by the scripts that run instrumented programs.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Installs what is missing, builds and runs every test, or with --long those that take minutes.
 # usage: scripts/test.sh [--long] [PRESET]     PRESET: dev (default), qt6, asan or tsan
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"

@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>This is not a valid backup folder. Choose a different folder.</source>
-        <translation>這個資料夾不能作為要備份的資料夾。請選擇其他資料夾。</translation>
+        <translation>此資料夾無法備份。請選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Restore</source>

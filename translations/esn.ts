@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>This is not a valid backup folder. Choose a different folder.</source>
-        <translation>Esta carpeta no es válida para la copia de seguridad. Elija otra carpeta.</translation>
+        <translation>Esta no es una carpeta de origen válida. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Restore</source>

@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Last week</source>
-        <translation>Semaine écoulée</translation>
+        <translation>7 derniers jours</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>Last month</source>
-        <translation>Mois écoulé</translation>
+        <translation>30 derniers jours</translation>
     </message>
     <message>
         <source>Today</source>
@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>This is not a valid backup folder. Choose a different folder.</source>
-        <translation>Ce dossier ne convient pas à la sauvegarde. Choisissez un autre dossier.</translation>
+        <translation>Ce dossier ne peut pas être sauvegardé. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>Restore</source>

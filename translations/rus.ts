@@ -593,7 +593,7 @@
     </message>
     <message>
         <source>Choose the folders to back up and the shared folder for the backup.</source>
-        <translation>Выберите папки для резервного копирования и общую папку для хранения копии.</translation>
+        <translation>Выберите папки, которые нужно включить в резервную копию, и общую папку для её хранения.</translation>
     </message>
     <message>
         <source>Smaller than</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>Quit</source>
-        <translation>Выход</translation>
+        <translation>Завершить</translation>
     </message>
     <message>
         <source>Next pages (%1)</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Select the folders to back up.</source>
-        <translation>Выберите папки для резервного копирования.</translation>
+        <translation>Выберите папки, которые нужно включить в резервную копию.</translation>
     </message>
     <message>
         <source>Time</source>
@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>This is not a valid backup folder. Choose a different folder.</source>
-        <translation>Эта папка не подходит для резервного копирования. Выберите другую папку.</translation>
+        <translation>Эта папка не подходит в качестве исходной. Выберите другую папку.</translation>
     </message>
     <message>
         <source>Restore</source>

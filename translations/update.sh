@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Brings the English texts of the string table into all twenty sources: new texts come in as
 # unfinished, texts that are gone are dropped. English is its own translation and is filled in.
 set -euo pipefail

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/spdlog.h>
 

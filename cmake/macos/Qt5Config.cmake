@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Qt for toolchain-macos.cmake: the headers and the tools of this machine's Qt 5, and stubs in place
 # of the frameworks.
 set(Qt5_VERSION 5.15)

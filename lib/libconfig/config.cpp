@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "config.h"
 
 #include <cstdio>
@@ -64,12 +65,9 @@ int Config::parse(char *line, int /*length*/, ustring &key, ustring &value) {
         return 1;
     }
 
-    char *p = skip_blanks(key_end);
-    if (*p != '=') {
-        return 2;
-    }
-    p = skip_blanks(p + 1);
-    if (*p == '\0') {
+    char *const equals = skip_blanks(key_end);
+    char *p = *equals == '=' ? skip_blanks(equals + 1) : equals;
+    if (*equals != '=' || *p == '\0') {
         return 2;
     }
 

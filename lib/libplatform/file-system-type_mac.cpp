@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <sys/param.h>
 
 #include <sys/mount.h>

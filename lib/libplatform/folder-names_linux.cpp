@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "folder-names_linux.h"
 
 #include <dirent.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "real-path.h"
 
 #include <CoreServices/CoreServices.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "system-path.h"
 
 #include <cerrno>

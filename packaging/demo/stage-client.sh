@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Puts together a client bundle to package, install and start in demonstrations and measurements:
 # as large and as mixed as a real one, made only of files that come with qtbase5-dev and libicu-dev.
 #

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "archive-handle.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "client-folder.h"
 
 #include <sys/stat.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>

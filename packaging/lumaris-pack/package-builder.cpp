@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "package-builder.h"
 
 #include <filesystem>

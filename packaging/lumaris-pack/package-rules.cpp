@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "package-rules.h"
 
 #include <QString>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "package-verifier.h"
 
 #include <sys/stat.h>

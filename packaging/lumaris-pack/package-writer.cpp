@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "package-writer.h"
 
 #include <fcntl.h>

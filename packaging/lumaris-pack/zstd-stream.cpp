@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zstd-stream.h"
 
 #include <algorithm>

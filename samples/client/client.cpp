@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small client to install, start and stop: it keeps its pid file while it runs, notes its start
 // and its end in log/client.log and ends on SIGTERM, unless LUMARIS_CLIENT_IGNORE_SIGTERM is set.
 

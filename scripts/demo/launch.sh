@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # Starting the launcher and looking at what it did; sourced by demo.sh.
 

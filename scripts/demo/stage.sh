@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # What an act starts with: a home folder, a launcher bundle, a package; sourced by demo.sh.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Follows the progress dialog on an Xvfb screen by its pixels, as a person would see it: prints
 // "MILLISECONDS PERCENT" whenever the bar has moved, until it is ended by a signal, and keeps the
 // first picture from 40 percent on.

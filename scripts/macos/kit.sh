@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # Lays out what cmake/toolchain-macos.cmake needs; sourced by macos.sh.
 

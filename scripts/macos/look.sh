@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 # Looks at what was built for macOS; sourced by macos.sh.
 

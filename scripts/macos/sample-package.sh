@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Packs the sample client alone, for a launcher bundle that is built to be tested and not shipped.
 # usage: sample-package.sh BUILD_FOLDER OUT
 set -euo pipefail

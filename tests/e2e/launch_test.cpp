@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <sys/file.h>
 
 #include "launch-fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Many launchers, clients and writers at once and in a row, seen through /proc and strace.
 
 #include <sys/prctl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Nothing left to write to, and power that fails.
 
 #include <sys/sysmacros.h>

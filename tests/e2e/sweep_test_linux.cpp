@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Disturbs the launcher at every system call that changes a file, and looks what is left.
 //
 // strace numbers and disturbs the calls of the unmodified launcher. Two things make each number

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bytes as a package: counted, listed and extracted into a fresh folder. A success reports every
 // entry counted; a damaged package may yield more.
 

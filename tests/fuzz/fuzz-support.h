@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // What the fuzz targets share. `scripts/fuzz.sh` runs them, each in a sandbox in which nothing but

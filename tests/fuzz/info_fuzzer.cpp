@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bytes as the INFO file of the installed copy: whatever they are, the versions read are text, and
 // only the number at the start of the build counts.
 

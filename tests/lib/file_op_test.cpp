@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "file-op.h"
 
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // usage: mac-volume FOLDER MOUNTPOINT -f -s [FUSE options]
 // Shows FOLDER as a volume with the rules of a Mac: names keep their letter case and spelling, but
 // any case and any canonically equivalent spelling finds them. Writes a byte to standard output

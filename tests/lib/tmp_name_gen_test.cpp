@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tmp-name-gen.h"
 
 #include <gtest/gtest.h>

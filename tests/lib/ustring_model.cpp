@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A series of edits, drawn from the input, on `ustring` and on what it is measured by: std::string
 // and ICU's own string class. libFuzzer drives it, and ustring_test does with a seeded generator.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ustring.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "str-table.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tarn-locale.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <archive.h>
 #include <archive_entry.h>
 #include <gtest/gtest.h>

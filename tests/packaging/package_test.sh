@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Makes the Debian package, installs it below a temporary root with a package database of its own (the
 # machine's stays as it is) and starts the launcher in it with a fresh home folder: the client has to
 # be installed, complete and running.

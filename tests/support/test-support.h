@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <archive.h>
@@ -69,7 +70,7 @@ inline pid_t Child(const std::function<void()> &checks) {
     _exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
-/// Runs checks as somebody whom permissions hold.
+/// Runs checks as an ordinary user, since permissions do not bind root.
 inline void Apart(const std::function<void()> &checks) {
     EXPECT_EQ(0, Finish(Child([&checks] {
                   if (geteuid() == 0) {

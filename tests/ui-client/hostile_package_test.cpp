@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Packages that nobody should ship. Whatever is in them, an installation ends, and leaves either
 // what the package says or the old bundle.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Where things lie inside a client bundle and inside the launcher's own. One home for these names:

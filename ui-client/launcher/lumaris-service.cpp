@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lumaris-service.h"
 
 #include <unistd.h>
@@ -217,8 +218,7 @@ int Service::FSCopyPath(const ustring &src, const ustring &dst) {
         if (entry.name == "." || entry.name == "..") {
             continue;
         }
-        const ustring from = src + "/" + entry.name;
-        const ustring to = dst + "/" + entry.name;
+        const ustring from = src + "/" + entry.name, to = dst + "/" + entry.name;
         result = entry.type == FILE_TYPE_DIRECTORY ? FSCopyPath(from, to) : FSCopy(from, to, false);
         if (result != 0) {
             MSG_ERROR("FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());

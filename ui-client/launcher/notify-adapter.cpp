@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "notify-adapter.h"
 
 Notify_Adapter &Notify_Adapter::GetInstance() {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qtsingleapplication.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mac/mac-service.h"
 
 #include <signal.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "service-factory.h"
 
 #include "mac/mac-service.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Declares what the launcher calls of Core Services, for scripts/macos.sh.
