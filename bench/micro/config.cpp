@@ -15,7 +15,7 @@ constexpr int kLines = 10000;
 
 /// Lines that both readers take, in the order of their keys or shuffled.
 std::string File(int step) {
-    const std::string name = WorkFolder() + "/settings";
+    std::string name = WorkFolder() + "/settings";
     std::ofstream file(name);
     for (int i = 0; i < kLines; ++i) {
         char line[64];
@@ -63,7 +63,9 @@ void Peer(const std::string &file) {
 
 /// `step` and the number of lines have no common factor: every key is there.
 void CompareReading(const std::string &name, int step) {
-    for (const auto &[side, read] : {std::pair("project", Project), std::pair("peer", Peer)}) {
+    const std::pair<const char *, void (*)(const std::string &)> sides[] = {{"project", Project},
+                                                                            {"peer", Peer}};
+    for (const auto &[side, read] : sides) {
         benchmark::RegisterBenchmark((name + "/" + side).c_str(),
                                      [step, read = read](benchmark::State &state) {
                                          const std::string file = File(step);
