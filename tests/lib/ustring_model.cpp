@@ -42,7 +42,7 @@ public:
             "[{@`Zz\\", "\xFF", "",   "\xED\xA0\x80", std::string(600, 'p')};
         std::string text;
         for (unsigned i = Byte() % 6; i > 0; --i) {
-            const unsigned piece = Byte() % (std::size(pieces) + 4);
+            const size_t piece = Byte() % (std::size(pieces) + 4);
             text += piece < std::size(pieces) ? pieces[piece] : std::string(1, char(Byte() | 1));
         }
         return text;
