@@ -39,12 +39,13 @@ sandboxed() { # sandboxed TARGET ARGUMENT...
 }
 
 fuzz() { # fuzz TARGET: prints its closing line; its status is 1 when something was found
-    local target=$1 log=$WORK/$1.log status=0 crashes=()
+    local target=$1 log=$WORK/$1.log status=0 crashes=() corpus=(/mnt/work/corpus)
+    [ ! -d "$ROOT/tests/fuzz/corpus/$target" ] || corpus+=("$ROOT/tests/fuzz/corpus/$target")
     coverage() { grep -o 'cov: [0-9]* ft: [0-9]*' "$log" | "$1" -n 1; }
     mapfile -t crashes < <(find "$ROOT/tests/fuzz/crashes/$target" -type f 2>/dev/null)
     [ ${#crashes[@]} -eq 0 ] || sandboxed "$target" "${crashes[@]}" >"$log" 2>&1 || status=1
     [ $status -ne 0 ] || sandboxed "$target" -max_total_time="$seconds" -print_final_stats=1 \
-        /mnt/work/corpus "$ROOT/tests/fuzz/corpus/$target" >"$log" 2>&1 || status=1
+        "${corpus[@]}" >"$log" 2>&1 || status=1
     say "$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") executions in" \
         "$seconds s, $(coverage head) to $(coverage tail)," \
         "${#crashes[@]} earlier findings replayed, new findings: $status"
