@@ -90,6 +90,8 @@ TEST_F(MacServiceTest, HandlePackageUpgradeStopsOnlyAnInstalledClient) {
 }
 
 TEST_F(MacServiceTest, StopsTheClientAndKillsOneThatStays) {
+    fs::create_directory_symlink("home", root / "linked");
+    setenv("HOME", (root / "linked").c_str(), 1);  // a home may be reached through a link
     signal(SIGCHLD, SIG_IGN);  // so that an ended child is gone and not a zombie
     const pid_t client = StartClient(SIG_DFL);
     EXPECT_LT(Stop("pid=" + std::to_string(client) + "\n"), 3);
