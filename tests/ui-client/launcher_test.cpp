@@ -132,6 +132,8 @@ TEST_F(LauncherTest, OnlyTheSystemClosesTheDialog) {
     EXPECT_EQ(QSize(400, 400), QSize(dialog->minimumWidth(), dialog->maximumWidth()));
     EXPECT_FALSE(dialog->isVisible());
     dialog->show();
+    QEvent other(QEvent::WinIdChange);  // one that no widget handles
+    EXPECT_FALSE(QCoreApplication::sendEvent(dialog, &other)) << "taken away from the dialog";
     QTest::keyClick(dialog, Qt::Key_Escape);
     QCloseEvent by_the_user;
     QCoreApplication::sendEvent(dialog->windowHandle(), &by_the_user);
