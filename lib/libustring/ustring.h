@@ -47,7 +47,7 @@ public:
     // and stop at a NUL; so do the std::string forms. Positions beyond the source throw
     // std::out_of_range. UTF-16 that is not well-formed empties the string.
     ustring &assign(const ustring &s, unsigned long pos, unsigned long n);
-    ustring &assign(const char *s) { return assign(s, std::strlen(s)); }
+    ustring &assign(const char *s) { return assign(s, npos); }
     ustring &assign(const char *s, unsigned long n);
     ustring &assign(const unsigned short *s) { return assign(s, npos); }
     ustring &assign(const unsigned short *s, unsigned long n);
@@ -63,7 +63,7 @@ public:
     ustring &operator=(unsigned short u) { return assign(u, 1); }
 
     ustring &append(const ustring &s, unsigned long pos, unsigned long n);
-    ustring &append(const char *s) { return append(s, std::strlen(s)); }
+    ustring &append(const char *s) { return append(s, npos); }
     ustring &append(const char *s, unsigned long n);
     ustring &append(const unsigned short *s) { return append(s, npos); }
     ustring &append(const unsigned short *s, unsigned long n);

@@ -78,8 +78,8 @@ int Completeness(const ustring &bundle) {
 }
 
 /// After two failures in a row the bundle under the name can be a partial one, and the last whole
-/// client a backup of the first: that backup takes its place. Nothing happens while the bundle has
-/// its client.
+/// client a backup of the first: that backup takes its place. Nothing happens while the bundle is
+/// whole, or no backup has more.
 void RestoreClient(const ustring &app) {
     ustring best = app;
     for (int index = 0; index < kBackupNames; ++index) {
