@@ -17,7 +17,7 @@ bool is_key_char(char c) {
            c == '-' || c == '.';
 }
 
-/// The end of the line counts as one; bytes from 128 up do not.
+/// The NUL at the end of the line counts as one; bytes from 128 up do not.
 bool is_control(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
 }

@@ -79,6 +79,8 @@ int file_op::TypeOfMode(mode_t mode) {
 int file_op::Describe(Place &place, FILE_INFO &info, ustring &stored) {
     struct stat st;
     const int error = StatEntry(place.system, st);
+    // A missing entry is an answer. A parent that is no folder (ENOTDIR) is a failure like any
+    // other.
     if (error == ENOENT) {
         info = FILE_INFO();
         FillNames(place.asked, info);

@@ -20,7 +20,8 @@ struct Place {
     ustring asked;
     ustring system;
 
-    /// Not respelled yet. Describe does that on the way; who describes nothing calls Respelled.
+    /// In the spelling asked for. Describe finds the other one; code that does not describe the
+    /// entry starts with Respelled.
     explicit Place(const ustring &path) : asked(path), system(path) {}
     Place(const ustring &asked_path, const ustring &system_path)
         : asked(asked_path), system(system_path) {}
@@ -52,9 +53,9 @@ int DescribeListed(const Folder &folder, const ustring &name);
 
 /// FSOpenDir for a place that has been respelled.
 int OpenFolder(const Place &place, int flags, DIR_HANDLE &handle);
-/// Lists all entries but "." and "..", and closes the stream again: so a walk holds no descriptor
-/// while it goes deeper, and none reads a folder that changes beneath it. A read error counts as
-/// the end. Returns 0, or -1 when the folder does not open.
+/// Lists all entries but "." and "..". The stream is closed before the caller looks at the first
+/// entry, so a walk needs no descriptor for each level and may change the folder. A read error
+/// counts as the end. Returns 0, or -1 when the folder does not open.
 int ListFolder(const Place &place, std::vector<DIR_ENTRY> &entries);
 
 /// FSCopy for places that have been respelled.

@@ -19,7 +19,7 @@ using file_op::Place;
 constexpr unsigned int kPathBuffer = 4096;
 constexpr unsigned short kNoMode = 0xFFFF;
 
-/// Applies modes exactly while it lives, in the whole process.
+/// While it lives, what this process creates gets exactly the mode that is asked for.
 class NoUmask {
 public:
     NoUmask() : m_previous(umask(0)) {}
@@ -44,7 +44,7 @@ int MakeLevel(const Place &level, bool last, bool replace_files, mode_t mode) {
         return EEXIST;
     }
     if (exists && !replace_files) {
-        // The next level then fails beneath it.
+        // It stays, and making the next level below it fails.
         MSG_INFO("FSMKDirP: path: %s is symbolic link pointed to folder\n", level.asked.c_str());
         return 0;
     }
@@ -92,7 +92,7 @@ int file_op::MakeFolder(Place &place, bool recursive) {
         return -1;
     }
     int error = info.exists || mkdir(place.system.c_str(), 0777) == 0 ? 0 : errno;
-    // Only a missing parent needs the walk; one for each folder of a deep tree would add up.
+    // Only a missing parent needs the walk, which makes a call for each level above the folder.
     if (error != 0 && recursive) {
         unsigned long end = 0;
         error = MakeLevels(place, end, false, kNoMode);

@@ -16,7 +16,7 @@ int RemoveListed(const Folder &folder, const ustring &name, const Place &place) 
     if (file_op::DescribeListed(folder, name) != 0) {
         return -1;
     }
-    // Somebody else may have removed it since it was listed, and a missing entry is a success.
+    // Another process may have removed it since it was listed (ENOENT): that is a success, too.
     return std::remove(place.system.c_str()) == 0 || errno == ENOENT ? 0 : -3;
 }
 

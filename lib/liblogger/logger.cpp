@@ -34,6 +34,7 @@ FILE *OpenForAppending(ustring const &path) {
     return stream;
 }
 
+/// A type that this class does not know opens its path as well; its messages go to standard error.
 bool IsFileType(Logger::Type type) {
     return type != Logger::TYPE_SYSLOG && type != Logger::TYPE_STDOUT &&
            type != Logger::TYPE_STDERR;

@@ -54,7 +54,7 @@ int PathOfDescriptor(int fd, ustring &path) {
 }
 
 /// Whether a volume may ignore letter case or spelling: the kernel then knows an entry by the name
-/// that it was last asked for. A volume that is listed here in vain only costs time.
+/// that it was last asked for. To name a type here that never does so only costs time.
 bool MayFoldNames(const struct statfs &volume) {
     switch (static_cast<std::uint32_t>(volume.f_type)) {
         case CIFS_SUPER_MAGIC:

@@ -104,7 +104,7 @@ public:
     void trim(const bytes &set);
 
     // The searches are those of std::string_view, but nothing, not even an empty text, is found at
-    // or behind the end. Inline, as there: in a path the call would cost as much as the search.
+    // or behind the end. Inline, because a path is so short that a call would cost as much.
     unsigned long find(const bytes &s, unsigned long pos) const {
         return pos >= m_data_len ? npos : bytes(*this).find(s, pos);
     }

@@ -81,7 +81,7 @@ QString WithoutObjects(const QByteArray &text) {
     return plain + original.mid(end);
 }
 
-/// The reader lists keys with empty parts, but does not find them.
+/// The reader lists a key with an empty part ("a//b"), but finds no value for it.
 bool IsReadable(const QString &key) {
     return !QStringLiteral("/%1/").arg(key).contains(QLatin1String("//"));
 }

@@ -77,9 +77,9 @@ int Completeness(const ustring &bundle) {
     return !has(kClientExecutable) ? 0 : has(std::string(kResources) + "/" + kInfoFile) ? 2 : 1;
 }
 
-/// After two failures in a row the bundle under the name can be a partial one, and the last whole
-/// client a backup of the first: that backup takes its place. Nothing happens while the bundle is
-/// whole, or no backup has more.
+/// After two failed upgrades in a row the bundle can be a partial one, while the last whole client
+/// lies in a backup of the first: the most complete backup then takes the bundle's place. Nothing
+/// happens when no backup is more complete than the bundle.
 void RestoreClient(const ustring &app) {
     ustring best = app;
     for (int index = 0; index < kBackupNames; ++index) {

@@ -23,8 +23,8 @@ int qInitResources_texts();
 
 namespace {
 
-/// A file that may not grow and a reader who has gone are failed writes, which every writer here
-/// survives; the signals would end the launcher in the middle of an upgrade, at every start again.
+/// Makes a write beyond the file size limit, or into a pipe that nobody reads, fail with an error,
+/// which every writer here handles. The signals would end the launcher in the middle of an upgrade.
 void IgnoreWriteSignals() {
     signal(SIGXFSZ, SIG_IGN);
     signal(SIGPIPE, SIG_IGN);
