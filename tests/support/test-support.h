@@ -81,35 +81,25 @@ inline void Apart(const std::function<void()> &checks) {
               })));
 }
 
-/// "name/", "name=content", "name->target" or "name!", with a mode that is not the usual one.
-inline std::string Describe(const fs::path &path, const std::string &name) {
-    struct stat st = {};
-    lstat(path.c_str(), &st);
-    if (S_ISLNK(st.st_mode)) {
-        return name + "->" + fs::read_symlink(path).string();
-    }
-    const std::string content = S_ISREG(st.st_mode) ? ReadFile(path) : "";
-    const std::string hash = "#" + std::to_string(std::hash<std::string>()(content));
-    char mode[16] = "";
-    if ((st.st_mode & 07777) != (S_ISDIR(st.st_mode) ? 0755 : 0644)) {
-        snprintf(mode, sizeof(mode), ":%o", st.st_mode & 07777U);
-    }
-    return name +
-           (S_ISDIR(st.st_mode)   ? "/"
-            : S_ISREG(st.st_mode) ? "="
-                                  : "!") +
-           (content.size() < 100 ? content : hash) + mode;
-}
-
-/// What lies below `folder`, sorted.
+/// What lies below `folder`, sorted: "name/", "name=content" (its hash when it is long),
+/// "name->target" or "name!", with a mode that is not the usual one.
 inline std::string Tree(const fs::path &folder) {
     std::set<std::string> lines;
-    if (!fs::is_directory(folder)) {
-        lines.insert(Describe(folder, ""));
-    } else {
-        for (const auto &entry : fs::recursive_directory_iterator(folder)) {
-            lines.insert(Describe(entry, entry.path().lexically_relative(folder).string()));
+    std::error_code none;
+    for (const auto &entry : fs::recursive_directory_iterator(folder, none)) {
+        const bool link = entry.is_symlink(), directory = entry.is_directory() && !link;
+        std::string what = directory ? "/" : link ? "->" + fs::read_symlink(entry).string() : "!";
+        if (entry.is_regular_file() && !link) {
+            const std::string content = ReadFile(entry);
+            const std::string hash = "#" + std::to_string(std::hash<std::string>()(content));
+            what = "=" + (content.size() < 100 ? content : hash);
         }
+        char mode[16] = "";
+        const auto bits = static_cast<unsigned>(entry.symlink_status().permissions());
+        if (!link && bits != (directory ? 0755 : 0644)) {
+            snprintf(mode, sizeof(mode), ":%o", bits);
+        }
+        lines.insert(entry.path().lexically_relative(folder).string() + what + mode);
     }
     std::string tree;
     for (const std::string &line : lines) {

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// Nothing left to write to, many launchers and writers at once, many upgrades in a row.
+
+#include <sys/prctl.h>
+
+#include "launch-fixture.h"
+#include "own-mounts.h"
+
+namespace {
+
+size_t Count(const std::string &text, const std::string &part) {
+    size_t count = 0;
+    for (size_t at = 0; (at = text.find(part, at)) != std::string::npos; at += part.size()) {
+        ++count;
+    }
+    return count;
+}
+
+class SmallHomeTest : public LaunchTest {
+protected:
+    ~SmallHomeTest() override {
+        StopClient();
+        umount2(home.c_str(), MNT_DETACH);
+    }
+    void SetUp() override {
+        if (!OwnMounts() || mount("home", home.c_str(), "tmpfs", 0, "size=8m") != 0) {
+            GTEST_SKIP() << "needs root or user namespaces, to mount a volume";
+        }
+        Install();
+    }
+};
+
+TEST_F(SmallHomeTest, MoreThanTheDiskHolds) {
+    WritePackage(package, {{"zeros", std::string(10 << 20, '\0')}});
+    ExpectLaunch("120");
+    Ship("121");
+    ExpectLaunch("121");
+}
+
+// In memory, since a disk file system slows the writer down to some ten files a second.
+TEST_F(SmallHomeTest, PidFileReplacedWhileRead) {
+    ShipDamaged();
+    WriteFile(client, "#!/bin/sh\n");  // of which nothing stays
+    // More than a process can have, so nobody is hit whose id begins alike or ends alike. No signal
+    // is sent anyway: the calls are only written down and answered with "no such process".
+    const std::string contents[] = {"pid=4194305\n", "", "pid=4194305\n", "pid=0\n", "pid=-1\n"};
+    const fs::path file = lumaris / "ui.pid", other = lumaris / "new";
+    const pid_t writer = Child([&] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        for (size_t i = 0;; ++i) {
+            WriteFile(i / 5 % 2 ? file : other, contents[i % 5]);
+            rename(other.c_str(), file.c_str());
+        }
+    });
+    size_t asked = 0;
+    for (int i = 0; i < (Long() ? 64 : 6) || (asked == 0 && i < 200); ++i) {
+        EXPECT_EQ(0, Finish(Start({"strace", "-f", "--seccomp-bpf", "-qq", "-o", place / "kills",
+                                   "-etrace=kill,tkill,tgkill", "-einject=kill:error=ESRCH"})));
+        const std::string kills = ReadFile(place / "kills");
+        asked += Count(kills, "kill(4194305, SIGTERM)");
+        EXPECT_EQ(Count(kills, "kill("), Count(kills, "kill(4194305, SIGTERM)")) << kills;
+    }
+    kill(writer, SIGKILL);
+    Finish(writer);
+    // It always did; but a look-up may lose, now and then, against a writer that never pauses.
+    EXPECT_LE(Count(LauncherLog(), "ui.pid' does not exist"), 2U) << LauncherLog();
+    EXPECT_GT(asked, 0U);
+}
+
+TEST_F(LaunchTest, FilesThatMayNotGrow) {
+    Install();
+    ExpectLaunch("120", {"prlimit", "--fsize=4096"});
+    EXPECT_TRUE(HasLine("[ERROR] extractor(")) << LauncherLog();
+}
+
+TEST_F(LaunchTest, NobodyReadsWhatItSays) {
+    Install();
+    WriteFile(lumaris / "log", "a file");  // so that errors go to standard error
+    ShipDamaged();
+    EXPECT_EQ(0, Finish(Start({"bash", "-c", "exec > >(:) 2>&1; wait $!; exec \"$0\""})));
+    ExpectInstalled("120");
+    const std::string status = ReadFile("/proc/" + std::to_string(ClientPid()) + "/status");
+    const unsigned long ignored = strtoul(&status[status.find("SigIgn:") + 7], nullptr, 16);
+    EXPECT_EQ(0UL, ignored & (1UL << (SIGPIPE - 1) | 1UL << (SIGXFSZ - 1))) << "as it expects";
+}
+
+// The one at work waits for its package, so the others meet it, or each other, at the lock.
+TEST_F(LaunchTest, OneOfManyWorks) {
+    const size_t launchers = Long() ? 50 : 20;
+    for (int round = 0; round < (Long() ? 200 : 4); ++round) {
+        Install();
+        kill(StartToWait(), SIGKILL);  // whose lock file stays, and its end nobody has asked for
+        if (round % 2 == 1) {
+            fs::remove_all(place / "tmp");
+            fs::create_directory(place / "tmp");
+        }
+        fs::remove_all(lumaris / "log");
+        for (size_t i = 0; i < launchers; ++i) {
+            Start();
+        }
+        const auto left = [this] { return Count(LauncherLog(), "already launched, return\n"); };
+        EXPECT_TRUE(Eventually([&] { return left() == launchers - 1; })) << left();
+        EXPECT_TRUE(Eventually([this] { return HasLine("): extract package: "); }));
+        EXPECT_EQ(1U, Count(LauncherLog(), "): running\n")) << LauncherLog();
+        StopClient();  // and the launcher that works
+        while (wait(nullptr) > 0) {
+        }
+    }
+}
+
+TEST_F(LaunchTest, UpgradesInARow) {
+    const auto entries = [](const fs::path &folder) {
+        std::error_code none;
+        return std::distance(fs::recursive_directory_iterator(folder, none), {});
+    };
+    long first = 0;
+    for (int build = 1000; build <= (Long() ? 1300 : 1003); ++build) {
+        const pid_t before = ClientPid();
+        Ship(std::to_string(build));
+        EXPECT_EQ(0, Launch());
+        EXPECT_TRUE(Eventually([&] { return ClientPid() > 0 && ClientPid() != before; }));
+        ExpectInstalled(std::to_string(build));
+        EXPECT_TRUE(before == 0 || kill(before, 0) != 0) << "the client of the build before";
+        EXPECT_FALSE(HasLine("[ERROR]")) << LauncherLog();
+        // Nothing that the launcher has open goes to the client; its own log it closes at once.
+        const fs::path opened = "/proc/" + std::to_string(ClientPid()) + "/fd";
+        EXPECT_TRUE(Eventually([&] { return entries(opened) == 4; })) << entries(opened);
+        EXPECT_EQ("/dev/null", fs::read_symlink(opened / "1"));
+        first = first == 0 ? entries(place) : first;
+        EXPECT_EQ(first, entries(place));
+    }
+}
+
+TEST_F(LaunchTest, SpeaksTheLanguageOfTheUser) {
+    locale = "de_DE.UTF-8";
+    const pid_t launcher = StartToWait();
+    const std::string process = "/proc/" + std::to_string(launcher);
+    // The text as the dialog holds it; in the catalogue the bytes of each character are swapped.
+    const std::u16string text = u"Backup wird initialisiert";
+    std::string line;
+    for (std::ifstream maps(process + "/maps"); line.find("[heap]") == std::string::npos;) {
+        ASSERT_TRUE(std::getline(maps, line));
+    }
+    unsigned long begin = 0, end = 0;
+    ASSERT_EQ(2, sscanf(line.c_str(), "%lx-%lx", &begin, &end));
+    std::u16string heap((end - begin) / 2, u'\0');
+    std::ifstream memory(process + "/mem", std::ios::binary);
+    memory.seekg(static_cast<std::streamoff>(begin));
+    memory.read(reinterpret_cast<char *>(heap.data()), static_cast<std::streamsize>(end - begin));
+    EXPECT_NE(std::u16string::npos, heap.find(text));
+    LetGo();
+    EXPECT_EQ(0, Finish(launcher));
+}
+
+}  // namespace
