@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds and runs every test, or with --long those that take minutes.
+# Installs what is missing, builds and runs every test; with --long those that have more to look at
+# than a quick run can, which takes hours.
 # usage: scripts/test.sh [--long] [PRESET]     PRESET: dev (default), qt6, asan or tsan
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 source scripts/sanitizers.sh
 
-which=(--label-exclude long)
+which=(--timeout 600)
 if [ "${1:-}" = --long ]; then
-    which=(--label-regex long --verbose)
+    which=(--timeout 7200 --tests-regex _linux --verbose)
+    export LUMARIS_LONG=1
     shift
 fi
 preset=${1:-dev}

@@ -70,17 +70,6 @@ inline pid_t Child(const std::function<void()> &checks) {
     _exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
-/// Runs checks as an ordinary user, since permissions do not bind root.
-inline void Apart(const std::function<void()> &checks) {
-    EXPECT_EQ(0, Finish(Child([&checks] {
-                  if (geteuid() == 0) {
-                      EXPECT_EQ(0, setgid(65534));
-                      EXPECT_EQ(0, setuid(65534));
-                  }
-                  checks();
-              })));
-}
-
 /// What lies below `folder`, sorted: "name/", "name=content" (its hash when it is long),
 /// "name->target" or "name!", with a mode that is not the usual one.
 inline std::string Tree(const fs::path &folder) {
