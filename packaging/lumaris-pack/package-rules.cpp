@@ -122,10 +122,11 @@ std::system_error SystemError(const std::string &action) {
 }
 
 void EntryRules::Add(const std::string &name, mode_t mode, const char *target) {
-    Refuse(name, NameProblem(name));
+    const std::string name_problem = NameProblem(name);
+    Refuse(name, name_problem);
     Refuse(name, ModeProblem(mode));
     const auto parent = m_modes.find(fs::path(name).parent_path().native());
-    if (name.find('/') != std::string::npos &&
+    if (name_problem.empty() && name.find('/') != std::string::npos &&
         (parent == m_modes.end() || !S_ISDIR(parent->second))) {
         Refuse(name, "does not come after the folder that it lies in");
     }

@@ -26,6 +26,21 @@ ArchiveReader NewReader(int (*support_formats)(archive *)) {
     return reader;
 }
 
+/// Reads the data of an entry, to keep it when there is a `data`. ARCHIVE_EOF is success: skipping
+/// would stop within a compressed file and not see what is damaged there.
+int ReadData(archive *reader, QByteArray *data) {
+    const void *block = nullptr;
+    std::size_t size = 0;
+    la_int64_t offset = 0;
+    int status = ARCHIVE_OK;
+    while ((status = archive_read_data_block(reader, &block, &size, &offset)) == ARCHIVE_OK) {
+        if (data != nullptr) {
+            data->append(static_cast<const char *>(block), static_cast<int>(size));
+        }
+    }
+    return status;
+}
+
 /// Reads all entries and data. Returns how many entries there are, and why that fails in `problem`.
 std::uint64_t ReadToEnd(const std::string &path, ArchiveReader reader, std::string &problem) {
     archive_entry *entry = nullptr;
@@ -35,7 +50,8 @@ std::uint64_t ReadToEnd(const std::string &path, ArchiveReader reader, std::stri
         status = archive_read_next_header(reader.get(), &entry);
         if (status == ARCHIVE_OK || status == ARCHIVE_WARN) {
             ++entries;
-            status = archive_read_data_skip(reader.get());
+            status = ReadData(reader.get(), nullptr);
+            status = status == ARCHIVE_EOF ? ARCHIVE_OK : ARCHIVE_FATAL;
         }
     }
     if (status != ARCHIVE_EOF) {
@@ -97,9 +113,6 @@ private:
         if (status != ARCHIVE_OK && status != ARCHIVE_WARN) {
             return false;
         }
-        if (archive_entry_hardlink(entry) != nullptr) {
-            Refuse(label + " is a hard link");
-        }
         if (name == nullptr) {
             Refuse(label + " has no name that can be read in every locale");
         } else {
@@ -112,22 +125,18 @@ private:
         while (name.size() > 1 && name.back() == '/') {
             name.pop_back();  // formats mark folders so
         }
-        m_rules.Add(name, archive_entry_mode(entry), archive_entry_symlink(entry));
+        mode_t mode = archive_entry_mode(entry);
+        if (archive_entry_hardlink(entry) != nullptr) {
+            Refuse(Quoted(name) + " is a hard link");
+            mode |= S_IFREG;  // tar does not repeat the type of the other file
+        }
+        m_rules.Add(name, mode, archive_entry_symlink(entry));
         m_before_last = std::exchange(m_last, name);
     }
 
     bool CheckData(const std::string &label) {
-        const void *block = nullptr;
-        std::size_t size = 0;
-        la_int64_t offset = 0;
-        int status = ARCHIVE_OK;
         m_data.clear();
-        while ((status = archive_read_data_block(m_archive.get(), &block, &size, &offset)) ==
-               ARCHIVE_OK) {
-            if (m_last == kClientInfo) {
-                m_data.append(static_cast<const char *>(block), static_cast<int>(size));
-            }
-        }
+        const int status = ReadData(m_archive.get(), m_last == kClientInfo ? &m_data : nullptr);
         if (status == ARCHIVE_EOF) {
             return true;
         }
