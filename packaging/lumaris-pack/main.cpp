@@ -107,9 +107,8 @@ void AddOptions(QCommandLineParser &parser) {
 
 // Digits alone: no sign, no leading zero.
 qlonglong ParseNumber(const QString &text, const std::string &what, qlonglong highest) {
-    bool ok = false;
-    const qlonglong number = text.toLongLong(&ok);
-    if (!ok || number < 0 || number > highest || QString::number(number) != text) {
+    const qlonglong number = text.toLongLong();  // 0 for what is no number
+    if (number < 0 || number > highest || QString::number(number) != text) {
         throw UsageError(what + " " + Quoted(ToBytes(text)) + " is not a number from 0 to " +
                          std::to_string(highest));
     }
