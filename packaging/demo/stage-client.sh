@@ -9,8 +9,6 @@
 set -euo pipefail
 export LC_ALL=C QT_SELECT=qt5  # qmake is that of Qt 5, whatever else is installed
 
-readonly MIN_ENTRIES=300
-readonly MIN_BYTES=$((50 * 1000 * 1000))
 readonly FRAMEWORKS=(Core Gui Widgets Network DBus)
 readonly HEADERS=(Widgets Network)
 readonly ICU_LIBRARIES=(data uc i18n)
@@ -35,38 +33,17 @@ fi
 libs=$(qmake -query QT_INSTALL_LIBS) || fail "qmake does not run; install qtbase5-dev"
 plugins=$(qmake -query QT_INSTALL_PLUGINS)
 headers=$(qmake -query QT_INSTALL_HEADERS)
-readonly libs plugins headers
 
 mkdir -p "$(dirname "$out")"
 stage=$(mktemp -d "$out.XXXXXX")
-readonly stage
 trap 'rm -rf "$stage"' EXIT
 readonly contents=$stage/Contents
-readonly resources=$contents/Resources
+readonly frameworks=$contents/Frameworks resources=$contents/Resources
 
 # copy_library FILE NEW_PATH: the file behind a development link, with the permissions of a program
 copy_library() {
     [[ -f $1 ]] || fail "'$1' is missing; install qtbase5-dev and libicu-dev"
     install -D -m 755 "$1" "$2"
-}
-
-stage_framework() {
-    local folder=$contents/Frameworks/Qt$1.framework
-    copy_library "$libs/libQt5$1.so.5" "$folder/Versions/5/Qt$1"
-    mkdir -p "$folder/Versions/5/Resources"
-    plist "org.qt-project.Qt$1" "Qt$1" FMWK > "$folder/Versions/5/Resources/Info.plist"
-    ln -s 5 "$folder/Versions/Current"
-    ln -s "Versions/Current/Qt$1" "$folder/Qt$1"
-    ln -s Versions/Current/Resources "$folder/Resources"
-}
-
-stage_headers() {
-    local folder=$contents/Frameworks/Qt$1.framework
-    mkdir -p "$folder/Versions/5/Headers"
-    # Plain files only: private headers, from another package, lie in folders beside them.
-    find "$headers/Qt$1" -maxdepth 1 -type f \
-        -exec install -m 644 -t "$folder/Versions/5/Headers" {} +
-    ln -s Versions/Current/Headers "$folder/Headers"
 }
 
 # plist IDENTIFIER EXECUTABLE TYPE
@@ -86,74 +63,57 @@ plist() {
 PLIST
 }
 
-stage_libraries() {
-    local name
-    for name in "${FRAMEWORKS[@]}"; do
-        stage_framework "$name"
-    done
-    for name in "${HEADERS[@]}"; do
-        stage_headers "$name"
-    done
-    for name in "${ICU_LIBRARIES[@]}"; do
-        copy_library "$libs/libicu$name.so" "$contents/Frameworks/libicu$name.so.1"
-        ln -s "libicu$name.so.1" "$contents/Frameworks/libicu$name.so"
-    done
-    for name in "${PLUGINS[@]}"; do
-        [[ -d $plugins/$name ]] || continue
-        install -D -m 755 -t "$contents/Frameworks/plugins/$name" "$plugins/$name"/*.so
-    done
-}
+for name in "${FRAMEWORKS[@]}"; do
+    folder=$frameworks/Qt$name.framework
+    copy_library "$libs/libQt5$name.so.5" "$folder/Versions/5/Qt$name"
+    mkdir "$folder/Versions/5/Resources"
+    plist "org.qt-project.Qt$name" "Qt$name" FMWK > "$folder/Versions/5/Resources/Info.plist"
+    ln -s 5 "$folder/Versions/Current"
+    ln -s "Versions/Current/Qt$name" Versions/Current/Resources "$folder"
+done
+for name in "${HEADERS[@]}"; do
+    folder=$frameworks/Qt$name.framework
+    mkdir "$folder/Versions/5/Headers"
+    # Plain files only: private headers, from another package, lie in folders beside them.
+    find "$headers/Qt$name" -maxdepth 1 -type f \
+        -exec install -m 644 -t "$folder/Versions/5/Headers" {} +
+    ln -s Versions/Current/Headers "$folder"
+done
+for name in "${ICU_LIBRARIES[@]}"; do
+    copy_library "$libs/libicu$name.so" "$frameworks/libicu$name.so.1"
+    ln -s "libicu$name.so.1" "$frameworks/libicu$name.so"
+done
+for name in "${PLUGINS[@]}"; do
+    [[ -d $plugins/$name ]] || continue
+    install -D -m 755 -t "$frameworks/plugins/$name" "$plugins/$name"/*.so
+done
 
-stage_languages() {
-    local name
-    for name in "${LANGUAGES[@]}"; do
-        mkdir -p "$resources/$name.lproj"
-        printf 'CFBundleName = "Lumaris Backup";\n' > "$resources/$name.lproj/InfoPlist.strings"
-    done
-}
+for name in "${LANGUAGES[@]}"; do
+    mkdir -p "$resources/$name.lproj"
+    echo 'CFBundleName = "Lumaris Backup";' > "$resources/$name.lproj/InfoPlist.strings"
+done
 
 # The names that go wrong first: composed, decomposed, no Latin letter, longer than a tar header.
-stage_names() {
-    local help=$resources/help
-    local long
-    printf -v long '%0120d' 0
-    mkdir -p "$help" "$contents/PlugIns"
-    echo overview > "$help"/$'\xc3\x9cbersicht.txt'
-    echo greetings > "$help"/$'Gru\xcc\x88\xc3\x9fe.txt'
-    echo backup > "$help"/$'\xe3\x83\x90\xe3\x83\x83\xe3\x82\xaf\xe3\x82\xa2\xe3\x83\x83\xe3\x83\x97.txt'
-    echo long > "$help/$long.txt"
-    ln -s $'\xc3\x9cbersicht.txt' "$help/index.txt"
-}
+mkdir "$resources/help" "$contents/PlugIns"
+printf -v long '%0120d' 0
+for name in $'\xc3\x9cbersicht' $'Gru\xcc\x88\xc3\x9fe' "$long" \
+    $'\xe3\x83\x90\xe3\x83\x83\xe3\x82\xaf\xe3\x82\xa2\xe3\x83\x83\xe3\x83\x97'; do
+    echo help > "$resources/help/$name.txt"
+done
+ln -s $'\xc3\x9cbersicht.txt' "$resources/help/index.txt"
 
-stage_client() {
-    install -D -m 755 "$client" "$contents/MacOS/lumaris-backup-ui"
-    plist com.lumaris.backup lumaris-backup-ui APPL > "$contents/Info.plist"
-    printf 'APPL????' > "$contents/PkgInfo"
-    cat > "$resources/INFO" <<INFO
-[Version]
-major_version=2
-minor_version=5
-build_version=$build
-icon_overlay_version=1
-INFO
-}
-
-check_result() {
-    local entries bytes
-    entries=$(find "$stage" -mindepth 1 | wc -l)
-    bytes=$(find "$stage" -type f -printf '%s\n' | awk '{ sum += $1 } END { printf "%d", sum }')
-    ((entries >= MIN_ENTRIES)) || fail "only $entries entries, at least $MIN_ENTRIES are needed"
-    ((bytes >= MIN_BYTES)) || fail "only $bytes bytes, at least $MIN_BYTES are needed"
-    echo "$out: $entries entries, $bytes bytes"
-}
-
-stage_libraries
-stage_languages
-stage_names
-stage_client
+install -D -m 755 "$client" "$contents/MacOS/lumaris-backup-ui"
+plist com.lumaris.backup lumaris-backup-ui APPL > "$contents/Info.plist"
+printf 'APPL????' > "$contents/PkgInfo"
+printf '%s\n' '[Version]' major_version=2 minor_version=5 "build_version=$build" \
+    icon_overlay_version=1 > "$resources/INFO"
 # The caller's umask is no property of the bundle.
 chmod -R u=rwX,go=rX "$stage"
-summary=$(check_result)
+
+entries=$(find "$stage" -mindepth 1 | wc -l)
+bytes=$(find "$stage" -type f -printf '%s\n' | awk '{ sum += $1 } END { printf "%d", sum }')
+((entries >= 300)) || fail "only $entries entries, at least 300 are needed"
+((bytes >= 50000000)) || fail "only $bytes bytes, at least 50000000 are needed"
 rm -rf "$out"
 mv "$stage" "$out"
-echo "$summary"
+echo "$out: $entries entries, $bytes bytes"

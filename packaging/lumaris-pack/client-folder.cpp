@@ -4,116 +4,68 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
-#include <numeric>
-#include <tuple>
 
-#include "package-error.h"
 #include "package-rules.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-// Permissions of a link mean nothing and differ between systems.
-constexpr mode_t kLinkMode = S_IFLNK | 0777;
-
 mode_t StoredMode(mode_t mode) {
     if (S_ISLNK(mode)) {
-        return kLinkMode;
+        return S_IFLNK | 0777;  // they mean nothing and differ between systems
     }
     // The launcher writes into each folder after creating it, and removes it at the next upgrade.
-    const mode_t owner = S_ISDIR(mode) ? S_IRWXU : 0;
-    return (mode & S_IFMT) | (mode & 0777) | owner;
+    return S_ISDIR(mode) ? mode | S_IRWXU : mode;
 }
 
-class Lister {
-public:
-    explicit Lister(ClientFolder &folder) : m_folder(folder) {}
-
-    void List(const std::string &parent) {
-        const std::string path = parent.empty() ? m_folder.path : m_folder.Locate(parent);
-        try {
-            for (const fs::directory_entry &item : fs::directory_iterator(path)) {
-                const std::string leaf = item.path().filename().native();
-                Add((fs::path(parent) / leaf).native());
-            }
-        } catch (const fs::filesystem_error &error) {
-            throw PackageError("cannot list " + Quoted(path), error.code().value());
-        }
+ClientEntry Examine(const std::string &path, const std::string &name) {
+    struct stat info = {};
+    if (lstat(path.c_str(), &info) != 0) {
+        throw SystemError("cannot read " + Quoted(path));
     }
-
-    void CheckLinks() { m_links.Check(m_folder.problems); }
-
-private:
-    void Add(const std::string &name) {
-        struct stat info = {};
-        if (lstat(m_folder.Locate(name).c_str(), &info) != 0) {
-            throw PackageError("cannot read " + Quoted(m_folder.Locate(name)), errno);
-        }
-        Refuse(name, NameProblem(name));
-        Refuse(name, ModeProblem(info.st_mode));
-
-        const std::uint64_t size =
-            S_ISREG(info.st_mode) ? static_cast<std::uint64_t>(info.st_size) : 0;
-        ClientEntry entry{name, StoredMode(info.st_mode), size, info.st_mtime, {}};
-        if (S_ISLNK(info.st_mode)) {
-            entry.target = fs::read_symlink(m_folder.Locate(name)).native();
-            m_links.Add(name, entry.target);
-        }
-        m_folder.entries.push_back(std::move(entry));
-        if (S_ISDIR(info.st_mode)) {
-            List(name);
-        }
+    const bool file = S_ISREG(info.st_mode);
+    ClientEntry entry{name, StoredMode(info.st_mode), 0, info.st_mtime, {}};
+    entry.size = file ? static_cast<std::uint64_t>(info.st_size) : 0;
+    if (S_ISLNK(info.st_mode)) {
+        entry.target = fs::read_symlink(path).native();
     }
-
-    void Refuse(const std::string &name, const std::string &problem) {
-        if (!problem.empty()) {
-            m_folder.problems.push_back(Quoted(name) + " " + problem);
-        }
-    }
-
-    ClientFolder &m_folder;
-    LinkTable m_links;
-};
+    return entry;
+}
 
 int Rank(const std::string &name) {
     return name == kClientInfo ? 2 : name == kClientExecutable ? 1 : 0;
 }
 
-void CheckClientFiles(ClientFolder &folder) {
-    for (const std::string &name : {std::string(kClientExecutable), kClientInfo}) {
-        const auto entry =
-            std::find_if(folder.entries.begin(), folder.entries.end(),
-                         [&name](const ClientEntry &candidate) { return candidate.name == name; });
-        const std::string problem =
-            entry == folder.entries.end() ? "is missing" : ClientFileProblem(name, entry->mode);
-        if (!problem.empty()) {
-            folder.problems.push_back(Quoted(name) + " " + problem);
-        }
-    }
+bool PackedBefore(const ClientEntry &a, const ClientEntry &b) {
+    const int rank_a = Rank(a.name);
+    const int rank_b = Rank(b.name);
+    return rank_a == rank_b ? a.name < b.name : rank_a < rank_b;
 }
 
 }  // namespace
 
-std::uint64_t ClientFolder::TotalSize() const {
-    return std::accumulate(
-        entries.begin(), entries.end(), std::uint64_t{0},
-        [](std::uint64_t sum, const ClientEntry &entry) { return sum + entry.size; });
-}
-
 ClientFolder ListClientFolder(const std::string &path) {
     ClientFolder folder{path, {}, {}};
-    Lister lister(folder);
-    lister.List({});
-    lister.CheckLinks();
-    CheckClientFiles(folder);
+    EntryRules rules(folder.problems);
+    std::error_code error;
+    fs::path last = path;  // the folder that cannot be listed, when going on fails
+    for (fs::recursive_directory_iterator item(path, error), end; !error && item != end;
+         item.increment(error)) {
+        last = item->path();
+        const std::string name = last.lexically_relative(path).native();
+        folder.entries.push_back(Examine(last.native(), name));
+        const ClientEntry &entry = folder.entries.back();
+        folder.total_size += entry.size;
+        rules.Add(name, entry.mode, entry.target.c_str());
+    }
+    if (error) {
+        throw std::system_error(error, "cannot list " + Quoted(last.native()));
+    }
+    rules.CheckLinks();
+    rules.CheckClientFiles();
     std::sort(folder.problems.begin(), folder.problems.end());
-    std::sort(folder.entries.begin(), folder.entries.end(),
-              [](const ClientEntry &a, const ClientEntry &b) {
-                  return std::make_tuple(Rank(a.name), std::cref(a.name)) <
-                         std::make_tuple(Rank(b.name), std::cref(b.name));
-              });
+    std::sort(folder.entries.begin(), folder.entries.end(), PackedBefore);
     return folder;
 }

@@ -25,11 +25,8 @@ struct ClientFolder {
     std::vector<ClientEntry> entries;
     /// One line for each thing that may not be packaged.
     std::vector<std::string> problems;
-
-    /// Where the entry is on disk.
-    std::string Locate(const std::string &name) const { return path + "/" + name; }
-    std::uint64_t TotalSize() const;
+    std::uint64_t total_size = 0;
 };
 
-/// Throws PackageError when the folder, or one inside it, cannot be listed.
+/// Throws std::runtime_error when the folder, or one inside it, cannot be listed.
 ClientFolder ListClientFolder(const std::string &path);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <unistd.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
@@ -7,22 +9,33 @@
 #include <cstdlib>
 #include <exception>
 #include <limits>
+#include <map>
 #include <stdexcept>
 
 #include "archive-handle.h"
 #include "package-builder.h"
 #include "package-rules.h"
 #include "package-verifier.h"
-#include "progress-bar.h"
 
 namespace {
 
 enum ExitStatus { kSuccess = 0, kFailure = 1, kWrongUsage = 2 };
 
-class UsageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
+using UsageError = std::invalid_argument;
+
+/// The compression levels of a format or filter; all are 0 where nothing is compressed.
+struct Levels {
+    int lowest;
+    int initial;
+    int highest;
+
+    bool Compresses() const { return highest > 0; }
 };
+
+using Codings = std::map<std::string, Levels>;
+
+const Codings kFormats = {{"gnutar", {0, 0, 0}}, {"zip", {1, 6, 9}}};
+const Codings kFilters = {{"none", {0, 0, 0}}, {"xz", {0, 6, 9}}, {"zstd", {1, 9, 19}}};
 
 volatile std::sig_atomic_t g_interrupted = 0;
 
@@ -37,6 +50,37 @@ void PrintLine(const std::string &line) {
 std::string ToBytes(const QString &text) {
     return QFile::encodeName(text).toStdString();
 }
+
+/// One line on standard error that fills up; nothing at all when that is no terminal.
+class ProgressBar {
+public:
+    ProgressBar() = default;
+    ProgressBar(const ProgressBar &) = delete;
+    ProgressBar &operator=(const ProgressBar &) = delete;
+    /// Takes the line away again.
+    ~ProgressBar() {
+        if (m_percent >= 0) {
+            std::fputs("\r\033[K", stderr);
+        }
+    }
+
+    void Show(std::uint64_t done, std::uint64_t total) {
+        const int percent = total == 0 ? 100 : static_cast<int>(done * 100 / total);
+        if (!m_terminal || percent == m_percent) {
+            return;
+        }
+        m_percent = percent;
+        constexpr int width = 50;
+        const auto filled = static_cast<std::size_t>(percent * width / 100);
+        const std::string bar = std::string(filled, '#') + std::string(width - filled, ' ');
+        std::fprintf(stderr, "\r[%s] %3d %%", bar.c_str(), percent);
+        std::fflush(stderr);
+    }
+
+private:
+    const bool m_terminal = isatty(STDERR_FILENO) == 1;
+    int m_percent = -1;
+};
 
 void AddOptions(QCommandLineParser &parser) {
     const auto add = [&parser](const char *name, const char *value, const char *description,
@@ -53,7 +97,7 @@ void AddOptions(QCommandLineParser &parser) {
     add("minor", "N", "Minor version.");
     add("build", "N", "Build number; the launcher installs a package with a greater one.");
     add("icon-overlay", "N", "Version of the icon overlay (1).", "1");
-    add("format", "FORMAT", "gnutar (default) or zip.");
+    add("format", "FORMAT", "gnutar (default) or zip.", "gnutar");
     add("filter", "FILTER", "zstd (default), xz or none; of gnutar only.");
     add("level", "N", "Compression level of the filter, or of zip.");
     add("verify", "FILE", "List what speaks against the package FILE.");
@@ -63,9 +107,8 @@ void AddOptions(QCommandLineParser &parser) {
 
 // Digits alone: no sign, no leading zero.
 qlonglong ParseNumber(const QString &text, const std::string &what, qlonglong highest) {
-    bool ok = false;
-    const qlonglong number = text.toLongLong(&ok);
-    if (!ok || number < 0 || number > highest || QString::number(number) != text) {
+    const qlonglong number = text.toLongLong();  // 0 for what is no number
+    if (number < 0 || number > highest || QString::number(number) != text) {
         throw UsageError(what + " " + Quoted(ToBytes(text)) + " is not a number from 0 to " +
                          std::to_string(highest));
     }
@@ -89,31 +132,33 @@ std::time_t EntryTime() {
                : ParseNumber(text, "SOURCE_DATE_EPOCH", std::numeric_limits<std::time_t>::max());
 }
 
+const Levels &FindLevels(const Codings &codings, const char *kind, const std::string &name) {
+    const auto found = codings.find(name);
+    if (found == codings.end()) {
+        throw UsageError(std::string("there is no ") + kind + " " + Quoted(name));
+    }
+    return found->second;
+}
+
 PackageOptions ReadOptions(const QCommandLineParser &parser) {
-    const auto value = [&parser](const char *name) {
-        return parser.value(QLatin1String(name)).toStdString();
-    };
-    const std::string format_name = value("format").empty() ? "gnutar" : value("format");
-    const PackageCoding *format = FindFormat(format_name);
-    if (format == nullptr) {
-        throw UsageError("there is no format " + Quoted(format_name));
+    const std::string format = parser.value(QStringLiteral("format")).toStdString();
+    const Levels &of_format = FindLevels(kFormats, "format", format);
+    std::string filter = parser.value(QStringLiteral("filter")).toStdString();
+    if (filter.empty()) {
+        // Small, read quickly, and its checksum covers names and permissions as well as content.
+        filter = of_format.Compresses() ? "none" : "zstd";
     }
-    // Small, read quickly, and its checksum covers names and permissions as well as content.
-    const std::string initial_filter = format->Compresses() ? "none" : "zstd";
-    const std::string name = value("filter").empty() ? initial_filter : value("filter");
-    const PackageCoding *filter = FindFilter(name);
-    if (filter == nullptr) {
-        throw UsageError("there is no filter " + Quoted(name));
+    const Levels &of_filter = FindLevels(kFilters, "filter", filter);
+    if (of_format.Compresses() && of_filter.Compresses()) {
+        throw UsageError(format + " compresses by itself and takes no filter");
     }
-    if (format->Compresses() && filter->Compresses()) {
-        throw UsageError(std::string(format->name) + " compresses by itself and takes no filter");
-    }
-    const PackageCoding &coding = format->Compresses() ? *format : *filter;
-    int level = coding.default_level;
+    const Levels &levels = of_format.Compresses() ? of_format : of_filter;
+    int level = levels.initial;
     if (parser.isSet(QStringLiteral("level"))) {
         level = NumberOption(parser, "level");
-        if (!coding.Compresses() || level < coding.lowest_level || level > coding.highest_level) {
-            throw UsageError(std::string(coding.name) + " has no level " + std::to_string(level));
+        if (!levels.Compresses() || level < levels.lowest || level > levels.highest) {
+            throw UsageError((of_format.Compresses() ? format : filter) + " has no level " +
+                             std::to_string(level));
         }
     }
     return {format, filter, level, EntryTime()};
@@ -163,12 +208,7 @@ ExitStatus Verify(const QCommandLineParser &parser) {
     if (!report.problems.empty()) {
         return kFailure;
     }
-    const char *const protection =
-        report.protection == Protection::kEverything ? "everything is under a checksum"
-        : report.protection == Protection::kContents
-            ? "contents are under checksums, names, types and permissions are not"
-            : "nothing is under a checksum";
-    std::printf("%llu entries; %s\n", static_cast<unsigned long long>(report.entries), protection);
+    std::puts(report.summary.c_str());
     return kSuccess;
 }
 

@@ -4,12 +4,12 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <stdexcept>
 
-#include "package-error.h"
 #include "package-rules.h"
+#include "unique-fd.h"
 
 namespace fs = std::filesystem;
 
@@ -19,11 +19,11 @@ OutputFolder::OutputFolder(const std::string &path) : m_path(path) {
     }
     const fs::file_status status = fs::symlink_status(m_path);
     if (fs::exists(status) && !(fs::is_directory(status) && fs::is_empty(m_path))) {
-        throw PackageError("the output " + Quoted(m_path) + " exists");
+        throw std::runtime_error("the output " + Quoted(m_path) + " exists");
     }
     std::string temporary = m_path + ".XXXXXX";
     if (mkdtemp(temporary.data()) == nullptr) {
-        throw PackageError("cannot create " + Quoted(m_path), errno);
+        throw SystemError("cannot create " + Quoted(m_path));
     }
     m_temporary = temporary;
     chmod(m_temporary.c_str(), 0755);
@@ -38,40 +38,36 @@ OutputFolder::~OutputFolder() {
 
 void OutputFolder::MakeFolder(const std::string &name) {
     if (mkdir((m_temporary + "/" + name).c_str(), 0755) != 0) {
-        throw PackageError("cannot create " + Quoted(m_path + "/" + name), errno);
+        throw SystemError("cannot create " + Quoted(m_path + "/" + name));
     }
 }
 
-UniqueFd OutputFolder::MakeFile(const std::string &name) {
+void OutputFolder::MakeFile(const std::string &name, const std::function<void(int fd)> &write) {
     const std::string path = m_temporary + "/" + name;
-    UniqueFd file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644));
+    const UniqueFd file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644));
     if (file.Get() < 0) {
-        throw PackageError("cannot create " + Quoted(m_path + "/" + name), errno);
+        throw SystemError("cannot create " + Quoted(m_path + "/" + name));
     }
-    return file;
+    write(file.Get());
+    if (fsync(file.Get()) != 0) {
+        throw SystemError("cannot write " + Quoted(name));
+    }
 }
 
 void OutputFolder::Publish() {
     // Replaces an empty folder in one step, and fails when somebody filled it meanwhile.
     if (rename(m_temporary.c_str(), m_path.c_str()) != 0) {
-        throw PackageError("cannot create " + Quoted(m_path), errno);
+        throw SystemError("cannot create " + Quoted(m_path));
     }
     m_temporary.clear();
 }
 
-void FinishFile(UniqueFd file, const std::string &name) {
-    if (fsync(file.Get()) != 0 || close(file.Release()) != 0) {
-        throw PackageError("cannot write " + Quoted(name), errno);
-    }
-}
-
 void WriteText(int fd, std::string_view text, const std::string &name) {
-    std::size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t n = write(fd, text.data() + done, text.size() - done);
-        if (n < 0 && errno != EINTR) {
-            throw PackageError("cannot write " + Quoted(name), errno);
+    while (!text.empty()) {
+        const ssize_t n = write(fd, text.data(), text.size());
+        if (n < 0) {
+            throw SystemError("cannot write " + Quoted(name));
         }
-        done += n > 0 ? static_cast<std::size_t>(n) : 0;
+        text.remove_prefix(static_cast<std::size_t>(n));
     }
 }

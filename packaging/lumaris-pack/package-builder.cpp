@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "package-builder.h"
 
+#include <QFile>
 #include <filesystem>
+#include <stdexcept>
 
-#include "client-layout.h"
 #include "output-folder.h"
-#include "package-error.h"
 #include "package-rules.h"
 
 namespace fs = std::filesystem;
@@ -19,8 +19,34 @@ void RequireOutside(const BuildRequest &request) {
     const fs::path client = fs::weakly_canonical(request.client) / "";
     const fs::path output = fs::weakly_canonical(request.output) / "";
     if (output.native().compare(0, client.native().size(), client.native()) == 0) {
-        throw PackageError("the output " + Quoted(request.output) + " lies in the client bundle");
+        throw std::runtime_error("the output " + Quoted(request.output) +
+                                 " lies in the client bundle");
     }
+}
+
+// How the INFO file of the bundle, read as the launcher reads it, differs from the version; empty
+// when all values agree.
+std::string InfoDifference(const BuildRequest &request) {
+    InfoTexts texts;
+    if (ReadInfoFile(QFile::decodeName((request.client + "/" + kClientInfo).c_str()), texts) != 0) {
+        return "holds a serialized object, for which the launcher ignores it";
+    }
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const std::string found = texts[i] ? texts[i]->toStdString() : std::string();
+        if (found != request.version[i]) {
+            return "has " + std::string(kVersionKeys[i]) + " " + Quoted(found) +
+                   ", the package would have " + Quoted(request.version[i]);
+        }
+    }
+    return {};
+}
+
+std::string InfoText(const BuildRequest &request) {
+    std::string text = "[Version]\n";
+    for (std::size_t i = 0; i < request.version.size(); ++i) {
+        text += std::string(kVersionKeys[i]) + "=" + request.version[i] + "\n";
+    }
+    return text;
 }
 
 }  // namespace
@@ -28,25 +54,20 @@ void RequireOutside(const BuildRequest &request) {
 std::vector<std::string> BuildPackage(const BuildRequest &request,
                                       const PackageProgress &progress) {
     RequireOutside(request);
-    ClientFolder client = ListClientFolder(request.client);
-    if (client.problems.empty()) {
-        const std::string difference = InfoDifference(client.Locate(kClientInfo), request.version);
-        if (!difference.empty()) {
-            client.problems.push_back(Quoted(kClientInfo) + " " + difference);
-        }
-    }
+    const ClientFolder client = ListClientFolder(request.client);
     if (!client.problems.empty()) {
         return client.problems;
     }
-
+    const std::string difference = InfoDifference(request);
+    if (!difference.empty()) {
+        return {Quoted(kClientInfo) + " " + difference};
+    }
     OutputFolder output(request.output);
     output.MakeFolder(kPackageFolder);
-    UniqueFd package = output.MakeFile(kPackageFile);
-    WritePackage(client, request.options, package.Get(), progress);
-    FinishFile(std::move(package), kPackageFile);
-    UniqueFd info = output.MakeFile(kInfoFile);
-    WriteText(info.Get(), InfoText(request.version), kInfoFile);
-    FinishFile(std::move(info), kInfoFile);
+    output.MakeFile(kPackageFile, [&client, &request, &progress](int fd) {
+        WritePackage(client, request.options, fd, progress);
+    });
+    output.MakeFile(kInfoFile, [&request](int fd) { WriteText(fd, InfoText(request), kInfoFile); });
     output.Publish();
     return {};
 }

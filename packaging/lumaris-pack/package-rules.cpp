@@ -2,8 +2,10 @@
 #include "package-rules.h"
 
 #include <QString>
-#include <algorithm>
-#include <deque>
+#include <cerrno>
+#include <filesystem>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -17,26 +19,85 @@ bool IsUtf8(const std::string &text) {
     return QString::fromStdString(bytes).toStdString() == bytes;
 }
 
-using Steps = std::deque<std::string>;
-
-// At least one part, which may be empty; the first one is for an absolute path.
-Steps Split(const std::string &path) {
-    Steps parts;
-    std::size_t begin = 0;
-    while (begin <= path.size()) {
-        const std::size_t end = std::min(path.find('/', begin), path.size());
-        parts.push_back(path.substr(begin, end - begin));
-        begin = end + 1;
+// Why an entry may not have this name; empty when it may.
+std::string NameProblem(const std::string &name) {
+    if (name.empty() || name.front() == '/') {
+        return "is not a relative name";
     }
-    return parts;
+    const std::string below_root = "/" + name;
+    if (fs::path(below_root).lexically_normal().native() != below_root) {
+        return "has an empty, '.' or '..' part";
+    }
+    if (!IsUtf8(name)) {
+        return "is not valid UTF-8";
+    }
+    // The archive library on macOS takes such a file for attributes of whatever entry follows it.
+    if (fs::path(name).filename().native().compare(0, 2, "._") == 0) {
+        return "is an AppleDouble file";
+    }
+    return {};
 }
 
-std::string Join(const Steps &parts) {
-    std::string path;
-    for (const std::string &part : parts) {
-        path += path.empty() ? part : "/" + part;
+// The same for its type and permissions.
+std::string ModeProblem(mode_t mode) {
+    if (!S_ISREG(mode) && !S_ISDIR(mode) && !S_ISLNK(mode)) {
+        return "is neither a file, a folder nor a symbolic link";
     }
-    return path;
+    if (!S_ISLNK(mode) && (mode & (S_ISUID | S_ISGID | S_ISVTX)) != 0) {
+        return "is set-uid, set-gid or sticky";
+    }
+    if (S_ISDIR(mode) && (mode & S_IRWXU) != S_IRWXU) {
+        return "is a folder that its owner cannot read, write and search";
+    }
+    return {};
+}
+
+using Targets = std::map<std::string, std::string>;
+
+// Goes on from `folder` to `path`, through the links on the way; tells why it does not arrive.
+std::string Follow(const Targets &targets, const fs::path &path, fs::path &folder, int &followed) {
+    for (const fs::path &step : path) {
+        if (step == ".." && folder.empty()) {
+            return "points out of the bundle";
+        }
+        if (step == "..") {
+            folder = folder.parent_path();
+            continue;
+        }
+        if (step.empty() || step == ".") {
+            continue;
+        }
+        const auto link = targets.find((folder / step).native());
+        if (link == targets.end()) {
+            folder /= step;
+            continue;
+        }
+        if (++followed > kMaxLinks) {
+            return "never arrives";
+        }
+        if (link->second.empty() || link->second.front() == '/') {
+            return "points out of the bundle through " + Quoted(link->first);
+        }
+        std::string problem = Follow(targets, link->second, folder, followed);
+        if (!problem.empty()) {
+            return problem;
+        }
+    }
+    return {};
+}
+
+std::string LinkProblem(const Targets &targets, const std::string &name,
+                        const std::string &target) {
+    if (!IsUtf8(target)) {
+        return "points to a name that is not valid UTF-8";
+    }
+    if (target.empty() || target.front() == '/') {
+        return "points to an absolute or empty name";
+    }
+    fs::path folder = fs::path(name).parent_path();
+    int followed = 0;
+    const std::string problem = Follow(targets, target, folder, followed);
+    return problem.empty() ? "" : problem + ": " + Quoted(target);
 }
 
 }  // namespace
@@ -56,95 +117,50 @@ std::string Quoted(const std::string &name) {
     return text + "'";
 }
 
-std::string ParentName(const std::string &name) {
-    const std::size_t slash = name.rfind('/');
-    return slash == std::string::npos ? std::string() : name.substr(0, slash);
+std::system_error SystemError(const std::string &action) {
+    return {errno, std::generic_category(), action};
 }
 
-std::string NameProblem(const std::string &name) {
-    if (name.empty() || name.front() == '/') {
-        return "is not a relative name";
+void EntryRules::Add(const std::string &name, mode_t mode, const char *target) {
+    const std::string name_problem = NameProblem(name);
+    Refuse(name, name_problem);
+    Refuse(name, ModeProblem(mode));
+    const auto parent = m_modes.find(fs::path(name).parent_path().native());
+    if (name_problem.empty() && name.find('/') != std::string::npos &&
+        (parent == m_modes.end() || !S_ISDIR(parent->second))) {
+        Refuse(name, "does not come after the folder that it lies in");
     }
-    const Steps parts = Split(name);
-    for (const std::string &part : parts) {
-        if (part.empty() || part == "." || part == "..") {
-            return "has an empty, '.' or '..' part";
-        }
+    if (!m_modes.insert_or_assign(name, mode).second) {
+        Refuse(name, "is there twice");
     }
-    if (!IsUtf8(name)) {
-        return "is not valid UTF-8";
+    if (S_ISLNK(mode) && target == nullptr) {
+        Refuse(name, "points to a name that cannot be read in every locale");
+    } else if (S_ISLNK(mode)) {
+        m_targets[name] = target;
     }
-    // The archive library on macOS takes such a file for attributes of whatever entry follows it.
-    if (parts.back().compare(0, 2, "._") == 0) {
-        return "is an AppleDouble file";
-    }
-    return {};
 }
 
-std::string ModeProblem(mode_t mode) {
-    if (!S_ISREG(mode) && !S_ISDIR(mode) && !S_ISLNK(mode)) {
-        return "is neither a file, a folder nor a symbolic link";
-    }
-    if (!S_ISLNK(mode) && (mode & (S_ISUID | S_ISGID | S_ISVTX)) != 0) {
-        return "is set-uid, set-gid or sticky";
-    }
-    return {};
-}
-
-std::string ClientFileProblem(const std::string &name, mode_t mode) {
-    if (!S_ISREG(mode)) {
-        return "is not a plain file";
-    }
-    return name == kClientExecutable && (mode & S_IXUSR) == 0 ? "is not executable" : "";
-}
-
-void LinkTable::Add(const std::string &name, const std::string &target) {
-    m_targets[name] = target;
-}
-
-void LinkTable::Check(std::vector<std::string> &problems) const {
+void EntryRules::CheckLinks() {
     for (const auto &[name, target] : m_targets) {
-        const std::string problem = Problem(name, target);
-        if (!problem.empty()) {
-            problems.push_back(Quoted(name) + " " + problem);
+        Refuse(name, LinkProblem(m_targets, name, target));
+    }
+}
+
+void EntryRules::CheckClientFiles() {
+    for (const std::string &name : {std::string(kClientExecutable), kClientInfo}) {
+        const auto found = m_modes.find(name);
+        if (found == m_modes.end()) {
+            Refuse(name, "is missing");
+        } else if (!S_ISREG(found->second)) {
+            Refuse(name, "is not a plain file");
+        } else if (name == kClientExecutable && (found->second & S_IXUSR) == 0) {
+            Refuse(name, "is not executable");
         }
     }
 }
 
-std::string LinkTable::Problem(const std::string &name, const std::string &target) const {
-    if (!IsUtf8(target)) {
-        return "points to a name that is not valid UTF-8";
+void EntryRules::Refuse(const std::string &name, const std::string &problem) {
+    if (!problem.empty()) {
+        m_problems.push_back(Quoted(name) + " " + problem);
     }
-    Steps folder = Split(name);
-    folder.pop_back();
-    Steps steps = Split(target);
-    if (steps.front().empty()) {
-        return "points to an absolute or empty name";
-    }
-    for (int followed = 0; !steps.empty();) {
-        const std::string step = steps.front();
-        steps.pop_front();
-        if (step == ".." && folder.empty()) {
-            return "points out of the bundle: " + Quoted(target);
-        }
-        if (step == "..") {
-            folder.pop_back();
-        } else if (!step.empty() && step != ".") {
-            folder.push_back(step);
-        }
-        const auto link = m_targets.find(Join(folder));
-        if (link == m_targets.end()) {
-            continue;
-        }
-        if (++followed > kMaxLinks) {
-            return "never arrives: " + Quoted(target);
-        }
-        const Steps further = Split(link->second);
-        if (further.front().empty()) {
-            return "points out of the bundle through " + Quoted(link->first);
-        }
-        folder.pop_back();
-        steps.insert(steps.begin(), further.begin(), further.end());
-    }
-    return {};
 }

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "client-layout.h"
@@ -17,27 +18,26 @@ inline const std::string kClientInfo = std::string(kResources) + "/" + kInfoFile
 /// `name` in quotes, with control bytes and malformed UTF-8 escaped: one readable line.
 std::string Quoted(const std::string &name);
 
-/// The name of the folder that holds `name`; empty at the top.
-std::string ParentName(const std::string &name);
+/// What stops packing, with the reason from errno, told in one line for the user.
+std::system_error SystemError(const std::string &action);
 
-/// Why an entry may not have this name; empty when it may.
-std::string NameProblem(const std::string &name);
-
-/// Why an entry may not have this type and these permissions; empty when it may.
-std::string ModeProblem(mode_t mode);
-
-/// Why the client executable or INFO may not look like this; empty when it may.
-std::string ClientFileProblem(const std::string &name, mode_t mode);
-
-/// The symbolic links of one bundle, each followed step by step without touching the disk.
-class LinkTable {
+/// Examines the entries of one bundle in their order, without touching the disk.
+class EntryRules {
 public:
-    void Add(const std::string &name, const std::string &target);
-    /// Adds "`name` problem" lines to `problems` for each link that may not be packaged.
-    void Check(std::vector<std::string> &problems) const;
+    /// `problems` gets a line for each thing that may not be packaged.
+    explicit EntryRules(std::vector<std::string> &problems) : m_problems(problems) {}
+
+    /// `target` counts for symbolic links; null when the locale cannot express it.
+    void Add(const std::string &name, mode_t mode, const char *target);
+    /// Follows each link step by step.
+    void CheckLinks();
+    /// Looks for the client executable and INFO.
+    void CheckClientFiles();
 
 private:
-    std::string Problem(const std::string &name, const std::string &target) const;
+    void Refuse(const std::string &name, const std::string &problem);
 
+    std::vector<std::string> &m_problems;
+    std::map<std::string, mode_t> m_modes;
     std::map<std::string, std::string> m_targets;
 };

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
-/// How much of a package lies under a checksum that its reader looks at.
-enum class Protection { kNone, kContents, kEverything };
-
 struct PackageReport {
-    std::uint64_t entries = 0;
-    Protection protection = Protection::kNone;
+    /// How many entries there are, and how much of the package lies under a checksum that its
+    /// reader looks at.
+    std::string summary;
     /// One line for each reason against the package; empty when the launcher can install it.
     std::vector<std::string> problems;
 };

@@ -3,11 +3,12 @@
 
 #include <algorithm>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <thread>
 
+#include "client-layout.h"
 #include "output-folder.h"
-#include "package-error.h"
 
 ZstdStream::ZstdStream(int fd, int level)
     : m_fd(fd), m_context(ZSTD_createCCtx()), m_block(ZSTD_CStreamOutSize()) {
@@ -25,7 +26,7 @@ ZstdStream::ZstdStream(int fd, int level)
 void ZstdStream::Set(ZSTD_cParameter parameter, int value) {
     const std::size_t status = ZSTD_CCtx_setParameter(m_context.get(), parameter, value);
     if (ZSTD_isError(status) != 0) {
-        throw PackageError(std::string("cannot compress: ") + ZSTD_getErrorName(status));
+        throw std::runtime_error(std::string("cannot compress: ") + ZSTD_getErrorName(status));
     }
 }
 
@@ -42,9 +43,9 @@ void ZstdStream::Compress(ZSTD_inBuffer input, ZSTD_EndDirective directive) {
         ZSTD_outBuffer output = {m_block.data(), m_block.size(), 0};
         const std::size_t left = ZSTD_compressStream2(m_context.get(), &output, &input, directive);
         if (ZSTD_isError(left) != 0) {
-            throw PackageError(std::string("cannot compress: ") + ZSTD_getErrorName(left));
+            throw std::runtime_error(std::string("cannot compress: ") + ZSTD_getErrorName(left));
         }
-        WriteText(m_fd, {m_block.data(), output.pos}, "the package");
+        WriteText(m_fd, {m_block.data(), output.pos}, kPackageFile);
         // At the end what is left counts, before it only that everything was taken.
         done = directive == ZSTD_e_end ? left == 0 : input.pos == input.size;
     }

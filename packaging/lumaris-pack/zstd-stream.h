@@ -12,10 +12,10 @@
 /// the version of libzstd, not on how many processors there are.
 class ZstdStream {
 public:
-    /// `fd` stays the caller's. Throws PackageError when libzstd refuses the level.
+    /// `fd` stays the caller's. Throws std::runtime_error when libzstd refuses the level.
     ZstdStream(int fd, int level);
 
-    /// Throws PackageError when writing fails.
+    /// Throws std::runtime_error when writing fails.
     void Write(const void *data, std::size_t size);
     /// Ends the frame; nothing may be written after it.
     void Finish();
