@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "logger.h"
 
-#include <fcntl.h>
 #include <syslog.h>
 
 #include <thread>
@@ -22,28 +21,19 @@ std::string AfterStamp(const std::string &text) {
     return rest == nullptr || labs(mktime(&parsed) - now) > 30 ? "no stamp: " + text : rest;
 }
 
-void Log(const std::string &text, Logger::Level level = Logger::LEVEL_ERROR) {
+void Write(const std::string &text, Logger::Level level = Logger::LEVEL_ERROR) {
     Logger::LogMsg(level, "service_debug", "%s", text.c_str());
 }
 
-class LoggerTest : public testing::Test {
+class LoggerTest : public HomeTest {
 protected:
-    LoggerTest() {
-        setenv("TZ", "Asia/Tokyo", 1);
-        EXPECT_EQ(Start(m_path), 0);
+    LoggerTest() { setenv("TZ", "Asia/Tokyo", 1); }
+    int Start(const fs::path &path, Logger::Type type = Logger::TYPE_FILE) {
+        return Logger::Initialize(type, path.c_str(), (root / "levels").c_str(), 9);
     }
-    ~LoggerTest() override {
-        Logger::Destroy();
-        Logger::log_level.clear();
-        fs::remove_all(m_folder);
-    }
-    int Start(const std::string &path, Logger::Type type = Logger::TYPE_FILE) {
-        return Logger::Initialize(type, path, m_folder + "/launcher.debug", 50);
-    }
-    std::string Rotated(int index) { return m_path + "_" + std::to_string(index); }
+    fs::path Rotated(int index) { return root / ("log_" + std::to_string(index)); }
 
-    char m_name[24] = "/tmp/logger-test-XXXXXX";
-    const std::string m_folder = mkdtemp(m_name), m_path = m_folder + "/launcher.log";
+    const fs::path log = root / "log";
 };
 
 TEST_F(LoggerTest, ThresholdsPerComponent) {
@@ -54,25 +44,25 @@ TEST_F(LoggerTest, ThresholdsPerComponent) {
         {"", Logger::LEVEL_DEBUG, true},  // what was set stays
         {"service_debug=all\n", Logger::LEVEL_ERROR, false},
     };
+    Logger::log_level.clear();
     for (const auto &[levels, level, written] : cases) {
-        WriteFile(m_folder + "/launcher.debug", levels);
+        WriteFile(root / "levels", levels);
         testing::internal::CaptureStdout();
         EXPECT_EQ(Start("", Logger::TYPE_STDOUT), 0);
-        Log("text", level);
+        Write("text", level);
         EXPECT_EQ(testing::internal::GetCapturedStdout() != "", written) << levels;
     }
 }
 
 TEST_F(LoggerTest, OtherDestinations) {
-    EXPECT_NE(fcntl(fileno(Logger::log_fp), F_GETFD) & FD_CLOEXEC, 0);
     testing::internal::CaptureStderr();
     EXPECT_EQ(Start("", Logger::TYPE_STDERR), 0);
-    Log("err\n");
+    Write("err\n");
     EXPECT_EQ(AfterStamp(testing::internal::GetCapturedStderr()), "err\n");
     EXPECT_EQ(Start("", Logger::TYPE_SYSLOG), 0);
-    Log("syslog");
+    Write("syslog");
     Logger::Destroy();
-    Log("too late");
+    Write("too late");
     EXPECT_EQ(std::exchange(syslog_messages, 0), 1);
 }
 
@@ -80,38 +70,38 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyteOfItsOwn) {
     for (int i = 0; i < 49; ++i) {
         WriteFile(Rotated(i), std::to_string(i));
     }
-    WriteFile(m_path, "from an earlier start\n");
-    ASSERT_EQ(Start(m_path), 0);
+    WriteFile(log, "from an earlier start\n");
+    EXPECT_EQ(Start(log), 0);
     const int descriptor = fileno(Logger::log_fp);
-    Log(FILLS_THE_LOG);
+    Write(FILLS_THE_LOG);
     EXPECT_EQ(ReadFile(Rotated(0)), "0");
-    Log("last\n");
+    Write("last\n");
     EXPECT_EQ(fs::file_size(Rotated(0)), 22 + LIMIT + STAMP + 5);
     for (int i = 1; i < 49; ++i) {
         EXPECT_EQ(ReadFile(Rotated(i)), std::to_string(i - 1));
     }
     EXPECT_FALSE(fs::exists(Rotated(49)));
-    Log("new\n");
-    EXPECT_EQ(AfterStamp(ReadFile(m_path)), "new\n");
-    Log(FILLS_THE_LOG.substr(STAMP + 4));
+    Write("new\n");
+    EXPECT_EQ(AfterStamp(ReadFile(log)), "new\n");
+    Write(FILLS_THE_LOG.substr(STAMP + 4));
     Logger::ReloadLogFile();  // appends, and counts from zero
-    Log("more\n");
-    EXPECT_EQ(fs::file_size(m_path), LIMIT + STAMP + 5);
+    Write("more\n");
+    EXPECT_EQ(fs::file_size(log), LIMIT + STAMP + 5);
     EXPECT_EQ(fileno(Logger::log_fp), descriptor);  // the lowest that is free: none stays open
 }
 
 TEST_F(LoggerTest, FailuresKeepTheStreamOrDropMessages) {
-    EXPECT_EQ(Start(m_folder), -1);
-    Log(FILLS_THE_LOG);
-    Log("last\n");
-    EXPECT_EQ(fs::file_size(m_path), LIMIT + STAMP + 5);
-    ASSERT_EQ(Start(m_path), 0);
-    fs::remove(m_path);  // so that it cannot be rotated
-    Log(FILLS_THE_LOG + 'y');
-    Log("dropped until the log is opened again\n");
+    EXPECT_EQ(Start(root), -1);
+    Write(FILLS_THE_LOG);
+    Write("last\n");
+    EXPECT_EQ(fs::file_size(log), LIMIT + STAMP + 5);
+    EXPECT_EQ(Start(log), 0);
+    fs::remove(log);  // so that it cannot be rotated
+    Write(FILLS_THE_LOG + 'y');
+    Write("dropped until the log is opened again\n");
     Logger::ReloadLogFile();
-    Log("written\n");
-    EXPECT_EQ(AfterStamp(ReadFile(m_path)), "written\n");
+    Write("written\n");
+    EXPECT_EQ(AfterStamp(ReadFile(log)), "written\n");
 }
 
 TEST_F(LoggerTest, MessagesOfEightThreadsStayWhole) {
@@ -121,15 +111,15 @@ TEST_F(LoggerTest, MessagesOfEightThreadsStayWhole) {
         expected[std::string(100, letter)] = 4000;
         threads.emplace_back([letter] {
             for (int i = 0; i < 4000; ++i) {
-                Log(std::string(100, letter) + "\n");
+                Write(std::string(100, letter) + "\n");
             }
         });
     }
     for (std::thread &thread : threads) {
         thread.join();
     }
-    for (const auto &file : fs::directory_iterator(m_folder)) {
-        std::ifstream lines(file.path());
+    for (int file = -1; file < 49; ++file) {
+        std::ifstream lines(file < 0 ? log : Rotated(file));
         for (std::string line; std::getline(lines, line);) {
             ++found[AfterStamp(line)];
         }
