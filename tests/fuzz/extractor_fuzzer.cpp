@@ -38,8 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     fs::create_directories("run/d");
     WriteFile("run/package", {reinterpret_cast<const char *>(data), size});
     Extractor extractor;
-    extractor.m_src_path = "run/package";
-    extractor.m_dest_path = "run/d";
+    extractor.m_src_path = "/mnt/tmp/run/package";
+    extractor.m_dest_path = "/mnt/tmp/run/d";
     const int count = extractor.Count();
     assert(extractor.List() == (count < 0 ? -1 : 0));
     reports = 0;
