@@ -13,10 +13,8 @@
 struct LoadedService : MacService {
     LoadedService() {
         LoadSourceVersion();
-        for (const ustring &version : {m_source_major_version, m_source_minor_version,
-                                       m_source_build_version, m_source_icon_overlay_version}) {
-            assert(ustring::is_valid(version));
-        }
+        assert(ustring::is_valid(m_source_major_version + m_source_minor_version +
+                                 m_source_build_version + m_source_icon_overlay_version));
         m_target_build_version = m_source_build_version;
         assert(!IsNeedUpgrade());
     }

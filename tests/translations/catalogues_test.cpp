@@ -14,18 +14,6 @@ int qInitResources_texts();
 
 namespace {
 
-/// What of `text` a translation has to keep: blanks at its ends, its placeholders and how it ends.
-QStringList Form(QString text) {
-    const QRegularExpression kept(QStringLiteral("^ |%[0-9]|(\\.\\.\\.|:)(?= ?$)| $"));
-    QStringList parts;
-    auto match = kept.globalMatch(text.replace(QChar(0xFF1A), QLatin1Char(':')));
-    while (match.hasNext()) {
-        parts += match.next().captured();
-    }
-    parts.sort();  // a translation may turn placeholders around
-    return parts;
-}
-
 TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
     int argc = 0;
     QCoreApplication app(argc, nullptr);
@@ -44,7 +32,11 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
             const QString text = QString::fromUtf8(StrTable::kRows[id].text);
             const QString said = translator.translate("global", StrTable::kRows[id].text);
             EXPECT_FALSE(said.trimmed().isEmpty());
-            EXPECT_EQ(Form(text), Form(said));
+            for (const char *kept : {"%1", "%2", "..."}) {
+                EXPECT_EQ(text.count(QLatin1String(kept)), said.count(QLatin1String(kept))) << kept;
+            }
+            const QRegularExpression ends(QStringLiteral("^ |[:\uFF1A](?= ?$)| $"));
+            EXPECT_EQ(text.count(ends), said.count(ends));
             const bool keep = same.contains(QStringLiteral("%1\t%2\n").arg(code, text).toUtf8());
             EXPECT_EQ(code == QLatin1String("enu") || keep, text == said);
             EXPECT_EQ(said, StrTable::LoadStr(id));
