@@ -1,135 +1,225 @@
 // SPDX-License-Identifier: MIT
-#include <QCoreApplication>
-#include <QSettings>
+#include <signal.h>
 
-#include "plain-service.h"
+#include <sstream>
+#include <thread>
+#include <tuple>
+
+#include "client-layout.h"
+#include "extractor.h"
+#include "mac/mac-service.h"
+#include "notify-adapter.h"
+#include "platform/launch-services.h"
 #include "test-support.h"
 
 namespace {
 
+std::string desktop_calls;
+bool desktop_fails;
+
 class ServiceTest : public HomeTest {
 protected:
     ServiceTest() { fs::remove_all(resources); }
-    const fs::path resources = Service::GetRootLumarisResourceInstallPath().c_str();
-    PlainService service;
-};
 
-TEST_F(ServiceTest, PathsComeFromHomeAndTheExecutable) {
-    EXPECT_EQ(lumaris / "data", Service::GetUserLumarisDataInstallPath().c_str());
-    const std::string bundle = Service::GetRootLumarisInstallPath().c_str();
-    EXPECT_EQ(home / ".Lumaris_log", PackageInfo().log.c_str());
-    EXPECT_EQ(bundle + "/Contents/MacOS/package/lumaris.wpk", PackageInfo().package.c_str());
-}
+    /// Upgrades an installed client whose pid file names that process.
+    void Upgrade(long pid) {
+        WriteFile(app / kClientExecutable, "");
+        WriteFile(lumaris / "ui.pid", "pid=" + std::to_string(pid) + "\n");
+        service.HandlePackageUpgrade();
+    }
+
+    const fs::path resources = Service::GetRootLumarisResourceInstallPath().c_str();
+    MacService service;
+};
 
 TEST_F(ServiceTest, Versions) {
     service.LoadSourceVersion();
-    EXPECT_TRUE(Logged("): source does not exist\n")) << Log();
-    EXPECT_FALSE(Logged("source_version")) << Log();
+    EXPECT_FALSE(Logged("source_version")) << "there is none";
 
     const std::string full =
         "[Version]\nmajor_version=2\nminor_version=5\nbuild_version=121\nicon_overlay_version=7\n";
-    {
-        QSettings writer(QString::fromStdString(root / "written"), QSettings::IniFormat);
-        writer.setValue(QStringLiteral("Version/major_version"), QString(QChar(0x440)));
-        writer.setValue(QStringLiteral("Version/x"), QStringLiteral("@Vega"));
-    }
-    const std::string group = "[Version]\nbuild_version=1\n", refused = "refused";
-    const struct {
-        std::string info, versions;
-    } cases[] = {
-        {full, "2, 5, 121, 7"},
-        {"[Version]\nbuild_version=12a\n", ", , 12a, "},
-        {"major_version=2\n[Other]\nbuild_version=3\n", ", , , "},
-        {"[Version\nbuild_version=4", ", , 4, "},  // the settings reader is lenient
+    const std::string group = "[Version]\nbuild_version=1\n", refused = "it holds more than text";
+    const std::pair<std::string, std::string> cases[] = {
+        {"; packed by root@Vega\n" + full, "(2, 5, 121, 7)"},
         // Text that looks like an object where none can be.
-        {"; packed by root@Vega\n" + full, "2, 5, 121, 7"},
-        {"; jenkins@Debian12: @Variant(\n" + group, ", , 1, "},
-        {group + "[Other]\nx=@Variant(\\0\\0\\0\\xByteA)\n", ", , 1, "},
-        {"[Version]\nbuild_version=5@Variant(\n", ", , 5@Variant(, "},
-        {ReadFile(root / "written"), "\xd1\x80, , , "},
+        {"; jenkins@Debian12: @Variant(\n" + group, "(, , 1, )"},
+        {group + "[Other]\nx=@Variant(\\0\\0\\0\\xByteA)\n", "(, , 1, )"},
+        {"[Version]\nmajor_version=\\x440\nbuild_version=5@Variant(\n",
+         "(\xd1\x80, , 5@Variant(, )"},
         // Objects, the last of them broken, are not for the settings reader to rebuild.
-        {group + "x=@Variant(\n", refused},
         {group + "x=\"@\"Variant(\n", refused},
         {group + "x=\\x10040Variant(\n", refused},
         {group + "x=\\100\"DateTime(\n", refused},
         {"[Version]\nbuild_version=1 , @DateTime(\\0\\0\\0\\xByteA)\n", refused},
         {"[%56ersion]\nx=@\\qVariant(\\0\\0\\0\\xByteA)\n" + group, refused},
     };
-    for (const auto &row : cases) {
+    for (const auto &[info, logged] : cases) {
         fs::resize_file(root / "log", 0);
-        WriteFile(app / "Contents/Resources/INFO", row.info);
-        PlainService fresh;
-        fresh.LoadSourceVersion();
-        const bool ignored = row.versions == refused;
-        EXPECT_EQ(ignored, Logged("[WARNING] lumaris-service(")) << row.info << Log();
-        EXPECT_TRUE(Logged("): source_version = (" + (ignored ? ", , , " : row.versions) + ")\n"))
-            << row.info << Log();
+        WriteFile(app / kResources / kInfoFile, info);
+        MacService().LoadSourceVersion();
+        EXPECT_TRUE(Logged(logged)) << info << Log();
     }
-    fs::create_directories(resources / "INFO");
+    WriteFile(resources / kInfoFile, full);
     service.LoadTargetVersion();
-    EXPECT_TRUE(Logged("): target_version = (, , , )\n")) << "a folder has no keys";
-    fs::remove_all(resources / "INFO");
-    WriteFile(resources / "INFO", full);
-    service.LoadTargetVersion();
-    EXPECT_TRUE(Logged("): target_version = (2, 5, 121, 7)\n")) << Log();
+    EXPECT_TRUE(Logged("target_version = (2, 5, 121, 7)")) << Log();
 }
 
-// What a kill in an upgrade leaves, and then a package that cannot be extracted.
-TEST_F(ServiceTest, TwoFailuresInARow) {
-    const std::string client = "Contents/MacOS/lumaris-backup-ui", info = "Contents/Resources/INFO";
-    const struct {
-        const char *bundle[2], *backup[2], *restored;  // what executable and INFO hold
-    } cases[] = {{{"", ""}, {"old", ""}, "old"},
-                 {{"cut", ""}, {"old", "1"}, "old"},
-                 {{"own", "1"}, {"old", "1"}, "own"},
-                 {{"own", ""}, {"old", ""}, "own"}};
-    for (const auto &row : cases) {
-        fs::remove_all(lumaris);
-        fs::resize_file(root / "log", 0);
-        WriteFile(app / "partial", "x");
-        for (const auto &[bundle, files] :
-             {std::pair(app, row.bundle), std::pair(lumaris / "Lumaris.app_tmp", row.backup)}) {
-            for (int i = 0; i < 2; ++i) {
-                if (*files[i] != '\0') {
-                    WriteFile(bundle / (i == 0 ? client : info), files[i]);
-                }
-            }
-        }
-        EXPECT_EQ(-1, service.PrepareUserEnv());
-        EXPECT_EQ(row.restored, ReadFile(app / client));
-        EXPECT_EQ(row.restored == std::string("own"), fs::exists(app / "partial"));
-        EXPECT_EQ(row.restored == std::string("own"), fs::exists(lumaris / "Lumaris.app_tmp"));
-        EXPECT_NE(row.restored == std::string("own"), Logged("[WARNING] lumaris-service("));
-        EXPECT_TRUE(Logged("Failed to extract package, rollback to old installation\n")) << Log();
+TEST_F(ServiceTest, UpgradeDecision) {
+    const std::tuple<const char *, const char *, bool> cases[] = {
+        {"120", "121", true}, {"121", "121", false}, {"9", "10", true},
+        {"10", "9", false},   {"", "5", true},       {"12a", "12", false}};
+    for (const auto &[source, target, needed] : cases) {
+        WriteFile(app / kClientExecutable, "client");
+        WriteFile(app / kResources / kInfoFile, Info(source));
+        WriteFile(resources / kInfoFile, Info(target));
+        MacService fresh;
+        fresh.PreUpgrade();
+        EXPECT_EQ(needed, fresh.IsNeedUpgrade()) << source << " -> " << target;
+        fs::remove(app / kClientExecutable);
+        EXPECT_TRUE(fresh.IsNeedUpgrade()) << "client missing, " << source;
     }
 }
 
-TEST_F(ServiceTest, NoPlaceForTheBundle) {
+TEST_F(ServiceTest, StopsTheClientAndKillsOneThatStays) {
+    fs::create_directory_symlink("home", root / "linked");
+    setenv("HOME", (root / "linked").c_str(), 1);  // a home may be reached through a link
+    for (const bool stays : {false, true}) {
+        signal(SIGTERM, stays ? SIG_IGN : SIG_DFL);
+        const pid_t client = Child([] { sleep(30); });
+        signal(SIGTERM, SIG_DFL);
+        int end = 0;
+        std::thread parent([&] { end = Finish(client); });
+        const time_t start = time(nullptr);
+        Upgrade(client);
+        EXPECT_EQ(stays, time(nullptr) - start > 3) << "it has five seconds";
+        parent.join();
+        EXPECT_EQ(1000 + (stays ? SIGKILL : SIGTERM), end);
+        Upgrade(client);
+    }
+    EXPECT_FALSE(Logged("kill: ")) << "one that is gone is no error";
+}
+
+TEST_F(ServiceTest, SignalsNobodyButTheClient) {
+    // In a group of its own, so that a signal to the group would show.
+    EXPECT_EQ(0, Finish(Child([this] {
+                  setpgid(0, 0);
+                  const long own = getpid();
+                  for (const long pid : {0L, own, -own, (1L << 32) + own}) {
+                      Upgrade(pid);
+                  }
+              })));
+}
+
+TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
+    for (const bool fails : {false, true}) {
+        desktop_fails = fails;
+        desktop_calls = "";
+        service.PostUpgrade();
+        EXPECT_EQ("unregister " + app.string() + "\nopen " + app.string() + "\n", desktop_calls);
+        EXPECT_EQ(fails, Logged("Cannot unregister bundle, " + app.string())) << Log();
+        EXPECT_EQ(fails, Logged("): Failed to launch Lumaris UI\n")) << Log();
+    }
+}
+
+// What earlier failures may have left, and then a package that cannot be extracted.
+TEST_F(ServiceTest, TheFullestClientIsRestored) {
     WriteFile(lumaris, "not a folder");
     EXPECT_EQ(-1, service.PrepareUserEnv());
     EXPECT_TRUE(Logged("failed to create folder: '" + app.string() + "'\n")) << Log();
-    EXPECT_EQ("not a folder", ReadFile(lumaris));
+    // Executable (E) and INFO (I) of the bundle and its backups; the name of the restored one.
+    const std::pair<const char *, const char *> cases[] = {
+        {"- E", "app_tmp"},
+        {"E EI", "app_tmp"},
+        {"EI EI", "app"},
+        {"E E", "app"},
+        {"- - E EI", "app_tmp2"},
+        {"- - - - - - - - - - E", "app_tmp9"},  // no name is left for another backup
+    };
+    for (const auto &[text, restored] : cases) {
+        fs::remove_all(lumaris);
+        std::istringstream found(text);
+        std::string what, name = "app";
+        for (int backup = 0; found >> what; ++backup) {
+            const fs::path bundle = lumaris / ("Lumaris." + name);
+            WriteFile(bundle / "name", name);
+            if (what != "-") {
+                WriteFile(bundle / kClientExecutable, "");
+            }
+            if (what == "EI") {
+                WriteFile(bundle / kResources / kInfoFile, "");
+            }
+            name = "app_tmp" + (backup == 0 ? "" : std::to_string(backup));
+        }
+        EXPECT_EQ(-1, service.PrepareUserEnv());
+        EXPECT_EQ(restored, ReadFile(app / "name")) << text << Log();
+    }
 }
 
 TEST_F(ServiceTest, CopiesFilesAndTrees) {
     WriteFile(root / "tree/sub/file", "content");
-    fs::create_directories(root / "tree/empty");
     WriteFile(root / "blocked/sub", "a file where the tree has a folder");
     const auto copy = [this](const char *from, const char *to) {
         return service.FSCopyPath((root / from).c_str(), (root / to).c_str());
     };
     EXPECT_EQ(0, copy("tree", "copy"));
     EXPECT_EQ(0, copy("tree/sub/file", "copy/single"));
-    EXPECT_EQ("empty/ single=content sub/ sub/file=content", Tree(root / "copy"));
+    EXPECT_EQ("single=content sub/ sub/file=content", Tree(root / "copy"));
     EXPECT_EQ(-1, copy("tree/none", "copy"));
     EXPECT_EQ(-1, copy("tree", "copy/single"));
     EXPECT_EQ(-1, copy("tree", "blocked"));
 }
 
+TEST_F(ServiceTest, ExtractorReportsListsAndCopies) {
+    Extractor extractor;
+    extractor.m_src_path = (root / "a.wpk").c_str();
+    extractor.m_dest_path = (root / "dest").c_str();
+    EXPECT_EQ(-1, extractor.List()) << "there is no package";
+
+    const std::string data(100000, 'z');
+    WritePackage(extractor.m_src_path.c_str(), {{"one", data}, {"two", "2"}}, "gnutar", "");
+    QObject receiver;
+    std::string reports;
+    const auto *relay = &Notify_Adapter::GetInstance();
+    QObject::connect(relay, &Notify_Adapter::sigUpdateDialogText, &receiver,
+                     [&](const QString &text) { reports += text.toStdString(); });
+    QObject::connect(relay, &Notify_Adapter::sigUpdateProgress, &receiver,
+                     [&](int total, int done) { reports += std::to_string(10 * total + done); });
+    EXPECT_EQ(0, extractor.Extract()) << Log();
+    EXPECT_EQ("Lumaris Backup is initializing...2122", reports);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(0, extractor.List());
+    EXPECT_EQ("one\ntwo\n", testing::internal::GetCapturedStdout());
+
+    struct archive *in = archive_read_new(), *out = archive_write_disk_new();
+    struct archive_entry *entry = nullptr;
+    archive_read_support_format_all(in);
+    archive_read_open_filename(in, extractor.m_src_path.c_str(), 10240);
+    ASSERT_EQ(ARCHIVE_OK, archive_read_next_header(in, &entry));
+    archive_entry_set_pathname(entry, (root / "copy").c_str());
+    EXPECT_EQ(ARCHIVE_OK, archive_write_header(out, entry));
+    EXPECT_EQ(0, extractor.copy_data(in, out));
+    archive_read_close(in);
+    EXPECT_EQ(-1, extractor.copy_data(in, out)) << "nothing to read";
+    EXPECT_EQ(-1, extractor.copy_data(in, nullptr));
+    archive_write_free(out);
+    archive_read_free(in);
+    EXPECT_EQ(data, ReadFile(root / "copy"));
+
+    extractor.m_dest_path = "";
+    EXPECT_EQ(-1, extractor.Extract());
+    EXPECT_FALSE(Logged("total file numbers")) << "it should not have begun";
+    EXPECT_EQ(-1, extractor.Count());
+    EXPECT_EQ(-1, extractor.List());
+}
+
 }  // namespace
 
-int main(int argc, char **argv) {
-    testing::InitGoogleTest(&argc, argv);
-    QCoreApplication app(argc, argv);
-    return RUN_ALL_TESTS();
+// The desktop's double: notes what it is asked for and answers as told.
+int LaunchServices::UnregisterBundle(const QString &bundle) {
+    desktop_calls += "unregister " + bundle.toStdString() + "\n";
+    return desktop_fails ? 1 : 0;
+}
+bool LaunchServices::OpenBundle(const QString &bundle) {
+    desktop_calls += "open " + bundle.toStdString() + "\n";
+    return !desktop_fails;
 }
