@@ -5,7 +5,7 @@
 
 #include <thread>
 
-#include "../support/test-support.h"
+#include "test-support.h"
 
 namespace {
 
@@ -27,7 +27,10 @@ void Write(const std::string &text, Logger::Level level = Logger::LEVEL_ERROR) {
 
 class LoggerTest : public HomeTest {
 protected:
-    LoggerTest() { setenv("TZ", "Asia/Tokyo", 1); }
+    LoggerTest() {
+        setenv("TZ", "Asia/Tokyo", 1);
+        tzset();
+    }
     int Start(const fs::path &path, Logger::Type type = Logger::TYPE_FILE) {
         return Logger::Initialize(type, path.c_str(), (root / "levels").c_str(), 9);
     }

@@ -2,7 +2,7 @@
 // Packages that nobody should ship. Whatever is in them, an installation ends, and leaves either
 // what the package says or the old bundle.
 
-#include "plain-service.h"
+#include "mac/mac-service.h"
 #include "test-support.h"
 
 namespace {
@@ -17,7 +17,7 @@ protected:
     }
     /// Installs the package; returns the status and what the bundle holds then.
     std::string Install() const {
-        const int status = PlainService().PrepareUserEnv();
+        const int status = MacService().PrepareUserEnv();
         EXPECT_EQ(1, std::distance(fs::directory_iterator(lumaris), {})) << Tree(lumaris);
         return std::to_string(status) + " " + Tree(app);
     }
