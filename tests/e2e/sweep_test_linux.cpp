@@ -6,7 +6,6 @@
 
 #include <map>
 #include <regex>
-#include <thread>
 
 #include "launch-fixture.h"
 
@@ -132,44 +131,26 @@ TEST_F(SweepTest, EveryCallThatChangesAFile) {
     if (system("strace -o /dev/null true") != 0) {
         GTEST_SKIP() << "needs strace, and the permission to use it";
     }
-    std::vector<std::function<void()>> points;
     std::string order;
     size_t number = 0;
     for (const Scenario scenario : {kFirst, kUpgrade, kRollback}) {
         for (const Call &call : Record(scenario)) {
+            SCOPED_TRACE(std::to_string(scenario) + call.name + call.path + call.when);
             order += scenario == kUpgrade ? call.name + " " + call.path + "\n" : "";
             const bool sync = call.name == "syncfs";
             for (const int signal : {SIGKILL, SIGTERM, SIGINT, SIGHUP}) {
                 if (signal == SIGKILL || (sync && scenario == kUpgrade)) {
-                    points.push_back([=] { Kill(call, signal); });
+                    Kill(call, signal);
                 }
             }
             for (const char *error : {"ENOSPC", "EACCES", "EIO", "EINTR"}) {
                 if (Long() || sync || ++number % 23 == 0) {
-                    points.push_back([=] { Fail(call, error); });
+                    Fail(call, error);
                 }
             }
         }
     }
     EXPECT_LT(order.find("syncfs"), order.find("_tmp")) << "the backup goes before the sync";
-
-    std::vector<pid_t> children;
-    const unsigned count = std::thread::hardware_concurrency() + 1;
-    for (unsigned worker = 0; worker < count; ++worker) {
-        children.push_back(Child([&] {
-            Settle("worker" + std::to_string(worker));
-            for (size_t i = worker; i < points.size(); i += count) {
-                SCOPED_TRACE("point " + std::to_string(i));
-                points[i]();
-            }
-            StopClient();
-        }));
-    }
-    alarm(0);  // each of them has its own
-    for (const pid_t child : children) {
-        EXPECT_EQ(0, Finish(child));
-    }
-    printf("%zu points\n", points.size());
 }
 
 }  // namespace
