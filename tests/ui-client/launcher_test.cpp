@@ -45,8 +45,8 @@ public:
     int HandlePackageUpgrade() override {
         calls += "HandlePackageUpgrade ";
         if (run->quits) {
-            QMetaObject::invokeMethod(
-                qApp, [] { QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit)); });
+            QMetaObject::invokeMethod(qApp,
+                                      [] { qApp->postEvent(qApp, new QEvent(QEvent::Quit)); });
             EXPECT_TRUE(Eventually([] { return loop_ended.load(); }));
         }
         Notify_Adapter::GetInstance().UpdateDialogText(QStringLiteral("from the relay"));

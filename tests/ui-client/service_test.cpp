@@ -58,6 +58,7 @@ TEST_F(ServiceTest, Versions) {
         WriteFile(app / kResources / kInfoFile, info);
         MacService().LoadSourceVersion();
         EXPECT_TRUE(Logged(logged)) << info << Log();
+        EXPECT_EQ(logged == refused, Logged(refused)) << info;
     }
     WriteFile(resources / kInfoFile, full);
     service.LoadTargetVersion();
@@ -126,15 +127,11 @@ TEST_F(ServiceTest, TheFullestClientIsRestored) {
     WriteFile(lumaris, "not a folder");
     EXPECT_EQ(-1, service.PrepareUserEnv());
     EXPECT_TRUE(Logged("failed to create folder: '" + app.string() + "'\n")) << Log();
-    // Executable (E) and INFO (I) of the bundle and its backups; the name of the restored one.
+    // Executable (E) and INFO (I) of the bundle and its backups; the name of the restored one. Ten
+    // backups leave no name for another.
     const std::pair<const char *, const char *> cases[] = {
-        {"- E", "app_tmp"},
-        {"E EI", "app_tmp"},
-        {"EI EI", "app"},
-        {"E E", "app"},
-        {"- - E EI", "app_tmp2"},
-        {"- - - - - - - - - - E", "app_tmp9"},  // no name is left for another backup
-    };
+        {"- E", "app_tmp"}, {"E EI", "app_tmp"},      {"EI EI", "app"},
+        {"E E", "app"},     {"- - E EI", "app_tmp2"}, {"- - - - - - - - - - E", "app_tmp9"}};
     for (const auto &[text, restored] : cases) {
         fs::remove_all(lumaris);
         std::istringstream found(text);
