@@ -20,6 +20,7 @@ std::string Read(const std::string &text) {
     }
     unlink(path.c_str());
     EXPECT_EQ(config.read(path), -1);
+    EXPECT_EQ(config.read(""), -1);
     return all;
 }
 

@@ -30,9 +30,8 @@ TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
 
 TEST(TmpNameGen, SeedsFromTheClockAndDrawsNewPaths) {
     Generator gen;
-    unsigned long seconds = 0, microseconds = 0;
-    sscanf(reinterpret_cast<const char *>(gen.m_key), "%lu-%lu", &seconds, &microseconds);
-    EXPECT_NEAR(double(time(nullptr)), double(seconds), 10);
+    const double seconds = atof(reinterpret_cast<const char *>(gen.m_key));
+    EXPECT_NEAR(double(time(nullptr)), seconds, 10);
     const std::string path = gen.getTmpPath("/tmp").c_str();
     TmpNameGen::rc4_init(gen.m_sbox, gen.m_key);
     EXPECT_EQ(path, std::string("/tmp/") + gen.getTmpName().c_str());

@@ -67,6 +67,7 @@ void Edit(unsigned what, ustring &u, std::string &s, const std::string &x, unsig
           unsigned long n) {
     ustring other(x);
     const unsigned short *const wide = other.c_str_utf16();
+    const unsigned long half = Wide(s).size() / 2;
     const char c = "/Ba"[n % 3];
     const auto unit = static_cast<unsigned short>(0xD7FE + n);  // most are surrogates
     const std::function<void()> edits[] = {
@@ -86,7 +87,7 @@ void Edit(unsigned what, ustring &u, std::string &s, const std::string &x, unsig
         [&] { u.assign(c, n % 8), s.assign(n % 8, c); },
         [&] { u.assign(u, at, n), s = s.substr(at, n); },
         [&] { u.assign(u.c_str() + at, n), s = s.substr(at, n); },
-        [&] { u.assign(u.c_str_utf16(), n), s = Narrow(Wide(s).substr(0, n)); },
+        [&] { u.assign(u.c_str_utf16() + half, n), s = Narrow(Wide(s).substr(half, n)); },
         [&] { u = u + x.c_str() + c, s = s + x + c; },
         [&] { u.trim(x), s.erase(s.find_last_not_of(x) + 1).erase(0, s.find_first_not_of(x)); },
         [&] { u.replace(c, '.'), std::replace(s.begin(), s.end(), c, '.'); },
