@@ -130,37 +130,15 @@ protected:
     fs::path root, home, lumaris, app;
 };
 
-/// One entry of a package: a folder when the name ends in "/", a symbolic or hard link when one is
-/// given, otherwise a file or what `type` says.
+/// One entry of a package: a folder when its name ends in "/", otherwise what the mode says, or a
+/// file. With a `link` it is a hard link, or the symbolic one that the mode says.
 struct PackageEntry {
     std::string name;
     std::string data = {};
-    int mode = 0644;
-    std::string symlink = {};
-    std::string hardlink = {};
-    mode_t type = AE_IFREG;
+    mode_t mode = 0644;
+    std::string link = {};
 };
 using Entries = std::vector<PackageEntry>;
-
-inline void WriteEntry(struct archive *writer, const PackageEntry &item) {
-    struct archive_entry *entry = archive_entry_new();
-    archive_entry_set_pathname(entry, item.name.c_str());
-    const bool folder = !item.name.empty() && item.name.back() == '/';
-    archive_entry_set_filetype(entry, folder ? AE_IFDIR : item.type);
-    archive_entry_set_perm(entry, static_cast<mode_t>(folder ? item.mode | 0111 : item.mode));
-    if (!item.symlink.empty()) {
-        archive_entry_set_filetype(entry, AE_IFLNK);
-        archive_entry_set_symlink(entry, item.symlink.c_str());
-    }
-    if (!item.hardlink.empty()) {
-        archive_entry_set_hardlink(entry, item.hardlink.c_str());
-    }
-    archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()));
-    EXPECT_EQ(ARCHIVE_OK, archive_write_header(writer, entry))
-        << item.name << ": " << archive_error_string(writer);
-    archive_write_data(writer, item.data.data(), item.data.size());
-    archive_entry_free(entry);
-}
 
 inline void WritePackage(const fs::path &path, const Entries &entries,
                          const char *format = "gnutar", const char *filter = "gzip") {
@@ -172,7 +150,21 @@ inline void WritePackage(const fs::path &path, const Entries &entries,
     }
     ASSERT_EQ(ARCHIVE_OK, archive_write_open_filename(writer, path.c_str()));
     for (const PackageEntry &item : entries) {
-        WriteEntry(writer, item);
+        struct archive_entry *entry = archive_entry_new();
+        archive_entry_set_pathname(entry, item.name.c_str());
+        const bool folder = !item.name.empty() && item.name.back() == '/';
+        const bool plain = (item.mode & AE_IFMT) == 0;
+        archive_entry_set_mode(entry, item.mode | (folder  ? AE_IFDIR | 0111
+                                                   : plain ? AE_IFREG
+                                                           : 0));
+        if (!item.link.empty()) {
+            archive_entry_set_hardlink(entry, plain ? item.link.c_str() : nullptr);
+            archive_entry_set_symlink(entry, plain ? nullptr : item.link.c_str());
+        }
+        archive_entry_set_size(entry, static_cast<la_int64_t>(item.data.size()));
+        EXPECT_EQ(ARCHIVE_OK, archive_write_header(writer, entry)) << archive_error_string(writer);
+        archive_write_data(writer, item.data.data(), item.data.size());
+        archive_entry_free(entry);
     }
     EXPECT_EQ(ARCHIVE_OK, archive_write_free(writer));
 }
