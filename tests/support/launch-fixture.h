@@ -9,13 +9,10 @@
 /// The built launcher in a bundle of its own, with a small package whose client is the sample one.
 class LaunchTest : public HomeTest {
 protected:
-    LaunchTest() { Settle("M\xc3\xbcller \xe5\xae\xb6 \"1\""); }
-    ~LaunchTest() override { StopClient(); }
-
-    /// A folder with a home, a temporary folder and a bundle that ships build 121.
-    void Settle(const std::string &name) {
-        UseHome(name + "/home");
-        place = root / name;
+    /// In a folder with a home, a temporary folder and a bundle that ships build 121.
+    LaunchTest() {
+        place = root / "M\xc3\xbcller \xe5\xae\xb6 \"1\"";
+        UseHome(place.filename() / "home");
         bundle = place / "Bundle.app";
         package = bundle / "Contents/Resources/package/lumaris.wpk";
         info = bundle / "Contents/Resources/INFO";
@@ -27,6 +24,8 @@ protected:
         WriteFile(bundle / "log/launcher.debug", "launcher_debug=7\nservice_debug=7\n");
         Ship("121");
     }
+    ~LaunchTest() override { StopClient(); }
+
     void Ship(const std::string &build, const Entries &more = {}) {
         Entries entries = ClientPackage(build, ReadFile(CLIENT));
         entries.insert(entries.end() - 1, more.begin(), more.end());
