@@ -12,7 +12,7 @@ PACKAGES=(
     g++ cmake ninja-build
     qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev libgtest-dev
     libbenchmark-dev libspdlog-dev
-    libfuse3-dev fuse3 e2fsprogs
+    python3-fusepy e2fsprogs
     dpkg-dev file zstd xvfb openbox xdotool x11-utils imagemagick time procps strace python3
     fonts-liberation fonts-noto-cjk
 )
