@@ -60,6 +60,4 @@ class MacVolume(fusepy.Operations):
 
 
 # Nothing is remembered: names change on disk under the kernel's feet.
-fusepy.FUSE(
-    MacVolume(), sys.argv[2], foreground=True, nothreads=True, entry_timeout=0, attr_timeout=0
-)
+fusepy.FUSE(MacVolume(), sys.argv[2], foreground=True, nothreads=True, entry_timeout=0)
