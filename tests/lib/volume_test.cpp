@@ -41,17 +41,19 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     WriteFile("v/onto/e\u0301/u\u0308", "old");  // the same file, spelt otherwise
     WriteFile("disk/src/file", "3");
     fs::create_symlink("file", "disk/src/link");  // it does not travel
-    WriteFile("disk/late", "4");
+    WriteFile("disk/late/file", "4");
     EXPECT_EQ(FSRename(fs::absolute("disk/\u00FC").c_str(), "v/dst", true), 0);
     EXPECT_EQ(FSRename("disk/onto", "v/onto", false), 0);
     EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0);
     EXPECT_EQ(FSRename("disk/src", "v/moved", false), -3);
     EXPECT_EQ(FSRename("disk/src", "v/moved/file", false), -3);
-    EXPECT_EQ(FSCopy("disk/late", "v/late", true), -2);
-    EXPECT_EQ(Tree("v"),
-              "dst/ dst/sub/ dst/sub/e\u0301=1 late= moved/ moved/file=3 onto/ onto/e\u0301/ "
-              "onto/e\u0301/u\u0308=new");
-    EXPECT_EQ(Tree("disk"), "late=4 src/ src/link->file");
+    EXPECT_EQ(FSRename("disk/late", "v/late", false), -3);
+    EXPECT_EQ(FSCopy("disk/late/file", "v/part", true), -2);
+    EXPECT_EQ(
+        Tree("v"),
+        "dst/ dst/sub/ dst/sub/e\u0301=1 late/ late/file= moved/ moved/file=3 onto/ onto/e\u0301/ "
+        "onto/e\u0301/u\u0308=new part=");
+    EXPECT_EQ(Tree("disk"), "late/ late/file=4 src/ src/link->file");
 }
 
 TEST_F(VolumeTest, FollowsTheRulesOfAMac) {
