@@ -3,7 +3,7 @@
 
 #include <cerrno>
 
-#include "../support/test-support.h"
+#include "test-support.h"
 
 namespace {
 
