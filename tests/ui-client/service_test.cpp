@@ -47,6 +47,7 @@ TEST_F(ServiceTest, Versions) {
         {"[Version]\nmajor_version=\\x440\nbuild_version=5@Variant(\n",
          "(\xd1\x80, , 5@Variant(, )"},
         // Objects, the last of them broken, are not for the settings reader to rebuild.
+        {group + "a//x=@\n", refused},
         {group + "x=\"@\"Variant(\n", refused},
         {group + "x=\\x10040Variant(\n", refused},
         {group + "x=\\100\"DateTime(\n", refused},
