@@ -53,7 +53,7 @@ fuzz() { # fuzz TARGET: prints its closing line; its status is 1 when something 
     mkdir -p "$FINDINGS"
     cp "$log" "$FINDINGS/$target.log"
     find "$WORK/$target" -maxdepth 1 -type f -exec cp {} "$FINDINGS" \;
-    grep -m 5 -E 'not so|ERROR|SUMMARY|runtime error' "$log" || tail -n 5 "$log"
+    grep -m 5 -E 'Assertion|Failure|ERROR|SUMMARY|runtime error' "$log" || tail -n 5 "$log"
     say "kept in ${FINDINGS#"$ROOT"/}"
     return 1
 }

@@ -113,8 +113,10 @@ TEST_F(SweepTest, EveryCallOnTheBundle) {
             SCOPED_TRACE(std::to_string(scenario) + call);
             for (int number = 1; Kill(scenario, call, SIGKILL, number); ++number) {
                 ++points;
+                // A look at the old bundle that fails counts as "missing": see docs/reliability.md.
+                const bool looks = call == "openat" && scenario != kFirst;
                 for (const char *error : {"ENOSPC", "EACCES", "EIO", "EINTR"}) {
-                    if (Long() || ++drawn % 23 == 0 || call == "syncfs") {
+                    if (!looks && (Long() || ++drawn % 23 == 0 || call == "syncfs")) {
                         Fail(scenario, call, error, number);
                     }
                 }
