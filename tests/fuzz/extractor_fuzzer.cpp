@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Bytes as a package: counted, listed and extracted into a fresh folder. A success reports every
-// entry counted; a damaged package may yield more.
+// Bytes as a package: counted, listed and extracted into a fresh folder.
 
 #undef NDEBUG  // an assertion ends the run, so that the input is kept as a finding
 
@@ -9,14 +8,10 @@
 #include <sys/resource.h>
 
 #include <QCoreApplication>
-#include <QObject>
 #include <cassert>
 #include <csignal>
 
 #include "../support/test-support.h"
-#include "notify-adapter.h"
-
-static int reports = 0;
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv) {
     if (fs::current_path() != "/mnt/tmp") {
@@ -29,8 +24,6 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv) {
     signal(SIGXFSZ, SIG_IGN);
     assert(freopen("/dev/null", "w", stdout) != nullptr);
     Logger::Initialize(Logger::TYPE_FILE, "log", "", 2);
-    QObject::connect(&Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &app,
-                     [](int, int current) { assert(current == ++reports); });
     return 0;
 }
 
@@ -42,9 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     extractor.m_dest_path = "/mnt/tmp/run/d";
     const int count = extractor.Count();
     assert(extractor.List() == (count < 0 ? -1 : 0));
-    reports = 0;
-    const int result = extractor.Extract();
-    assert(result == -1 || (result == 0 && count > 0 && reports >= count));
+    assert(extractor.Extract() == -1 || count > 0);
     std::error_code error;
     fs::remove_all("run", error);
     // Folders may lack permissions, and be deeper than a path can say.
