@@ -68,7 +68,8 @@ bool IsCovered(const std::string &path, int filter) {
         .read(reinterpret_cast<char *>(head.data()), static_cast<std::streamsize>(head.size()));
     constexpr unsigned kFrameChecksum = 4;
     constexpr unsigned kCheckType = 15;
-    return filter == ARCHIVE_FILTER_GZIP || filter == ARCHIVE_FILTER_BZIP2 ||
+    // gzip has one as well, which the archive library does not look at.
+    return filter == ARCHIVE_FILTER_BZIP2 ||
            (filter == ARCHIVE_FILTER_ZSTD && (head[4] & kFrameChecksum) != 0) ||
            (filter == ARCHIVE_FILTER_XZ && (head[7] & kCheckType) != 0);
 }
