@@ -49,6 +49,7 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0);
     EXPECT_EQ(FSRename("disk/src", "v/moved", false), -3);
     EXPECT_EQ(FSRename("disk/src", "v/moved/file", false), -3);
+    EXPECT_EQ(FSRemove("/proc/version", false), -3);
     EXPECT_EQ(FSRename("disk/late", "v/late", false), -3);
     EXPECT_EQ(FSCopy("disk/late/file", "v/part", true), -2);
     EXPECT_EQ(

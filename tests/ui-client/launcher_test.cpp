@@ -98,6 +98,7 @@ TEST_F(LauncherTest, OnlyTheSystemClosesTheDialog) {
     dialog->show();
     QEvent other(QEvent::WinIdChange);  // one that no widget handles
     EXPECT_FALSE(QCoreApplication::sendEvent(dialog, &other)) << "taken away from the dialog";
+    QCoreApplication::sendEvent(qApp, &other);
     QTest::keyClick(dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog->close());
     EXPECT_TRUE(dialog->isVisible());
