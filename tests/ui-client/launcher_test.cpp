@@ -20,8 +20,8 @@ namespace {
 
 struct RunCase {
     bool needed;
-    int result;
     bool quits;  // the desktop ends the application in the middle of the upgrade
+    int result;
     // Each value of the bar with the first letter of the label then and "h" when hidden, and the
     // last label.
     const char *shown;
@@ -60,11 +60,11 @@ using LauncherTest = HomeTest;
 
 TEST_F(LauncherTest, TheDialogFollowsTheRun) {
     const RunCase cases[] = {
-        {true, 0, false, "66f 100f Lumaris Backup is ready."},
-        {true, -1, false, "66f 100f from the relay"},  // and the old client is opened
-        {false, 0, false, "100Lh Lumaris Backup is initializing...",
+        {true, false, 0, "66f 100f Lumaris Backup is ready."},
+        {true, false, -1, "66f 100f from the relay"},  // and the old client is opened
+        {false, false, 0, "100Lh Lumaris Backup is initializing...",
          "PreUpgrade IsNeedUpgrade PostUpgrade destroyed"},
-        {true, 0, true, "Lumaris Backup is initializing..."},
+        {true, true, 0, "Lumaris Backup is initializing..."},
     };
     for (const auto &row : cases) {
         run = &row;
