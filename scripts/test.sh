@@ -7,7 +7,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 source scripts/sanitizers.sh
 
-which=(--timeout 600)
+which=(--timeout 600 --parallel "$(nproc)")
 if [ "${1:-}" = --long ]; then
     which=(--timeout 7200 --tests-regex "(stress|sweep)" --verbose)
     export LUMARIS_LONG=1
