@@ -7,7 +7,7 @@
 namespace {
 
 // Commands run in a folder of this process, where `client` makes Client.app anew.
-const std::string kPrelude = R"(exec 2>&1; umask 022; unset SOURCE_DATE_EPOCH
+const std::string kPrelude = R"(exec 2>&1; umask 022; unset SOURCE_DATE_EPOCH; export LC_ALL=C
     dir=${TMPDIR:-/tmp}/lumaris-pack-test.$PPID; mkdir -p $dir; cd $dir
     tool=)" LUMARIS_PACK R"(; pack="$tool --build 121 --major 2 --minor 5"
     verify="$tool --verify out/package/lumaris.wpk"
@@ -96,6 +96,7 @@ TEST_F(LumarisPack, RefusesWhatTheLauncherCannotInstall) {
         {"ln -s /etc/passwd l", "'Contents/l' points to an absolute"},
         {"ln -s . here; ln -s here/../../x l", "'Contents/l' points out of the bundle"},
         {"ln -s l l", "'Contents/l' never arrives"},
+        {"ln -s '\xff' l", "'Contents/l' points to a name that is not valid UTF-8"},
         {"chmod 4755 Library/a", "'Contents/Library/a' is set-uid"},
         {"mkfifo pipe", "'Contents/pipe' is neither"},
         {"touch '\xff\nx'", "'Contents/\\xff\\x0ax' is not valid UTF-8"},

@@ -76,6 +76,7 @@ TEST_F(HostilePackageTest, CutAnywhere) {
         WriteFile(package, bytes.substr(0, end));
         EXPECT_EQ(kRefused, Install()) << end << Log();
     }
+    EXPECT_FALSE(Logged("unknown error")) << Log();
 }
 
 }  // namespace
