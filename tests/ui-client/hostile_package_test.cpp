@@ -2,6 +2,8 @@
 // Packages that nobody should ship. Whatever is in them, an installation ends, and leaves either
 // what the package says or the old bundle.
 
+#include <QCoreApplication>
+
 #include "mac/mac-service.h"
 #include "test-support.h"
 
@@ -69,7 +71,8 @@ TEST_F(HostilePackageTest, OddEntries) {
 
 // The default format, whose end and content are under a checksum.
 TEST_F(HostilePackageTest, CutAnywhere) {
-    WritePackage(package, ClientPackage("121"), "gnutar", "zstd");
+    const std::string client = ReadFile(QCoreApplication::applicationFilePath().toStdString());
+    WritePackage(package, ClientPackage("121", client.substr(0, 500000)), "gnutar", "zstd");
     const std::string bytes = ReadFile(package);
     for (size_t end = 0; end < bytes.size(); end += bytes.size() / 30) {
         PutOldBundle();
