@@ -8,12 +8,8 @@ set -euxo pipefail
 readonly cpack=$1 build=$2
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-package.XXXXXX")
-# processes PATTERN: of the programs with such a path
-processes() {
-    { find /proc -mindepth 2 -maxdepth 2 -name exe -lname "$1" 2>/dev/null || true; } | cut -d/ -f3
-}
 # Ends what was started from the work folder, a client without a pid file included.
-trap 'processes "$work/*" | xargs -r kill -KILL || true; rm -rf "$work"' EXIT
+trap 'pkill -KILL -f "^$work/" || true; rm -rf "$work"' EXIT
 
 package() { "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/out" 2>&1; }
 # Nobody ships the demo client by accident.
@@ -32,7 +28,7 @@ env -u DISPLAY HOME="$work/home" TMPDIR="$work/tmp" XDG_RUNTIME_DIR="$work/tmp" 
     QT_QPA_PLATFORM=offscreen "$contents/MacOS/launcher"
 diff -r --no-dereference "$build/packaging/bundle/client/Lumaris.app" \
     "$work/home/.LumarisBackup/Lumaris.app"
-until [[ -n $(processes "$work/home/*/lumaris-backup-ui") ]]; do
+until pgrep -f "^$work/home/.*/lumaris-backup-ui"; do
     ((SECONDS < 60))
     sleep 0.1
 done

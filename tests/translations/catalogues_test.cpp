@@ -46,16 +46,10 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
 
 TEST(StrTable, NumbersAndKeys) {
     StrTable::InitStrTable();
-    const std::tuple<int, const char *, const char *> cases[] = {
-        {0, "TRAY_help", "Help"},
-        {39, "desc_lmrs_env_preparation_done", "Lumaris Backup is ready."},
-        {259, "setting_filter_table_desc", "Matching files are not backed up."},
-        {-1, "tray_hel", ""},
-    };
-    for (const auto &[id, key, text] : cases) {
-        EXPECT_EQ(id, StrTable::LookupStrID(QString::fromLatin1(key))) << key;
-        EXPECT_EQ(text, StrTable::LoadStr(id).toStdString()) << key;
-    }
+    EXPECT_EQ(0, StrTable::LookupStrID(QStringLiteral("TRAY_help")));
+    EXPECT_EQ(259, StrTable::LookupStrID(QStringLiteral("setting_filter_table_desc")));
+    EXPECT_EQ(-1, StrTable::LookupStrID(QStringLiteral("tray_hel")));
+    EXPECT_EQ("Lumaris Backup is ready.", StrTable::LoadStr(39).toStdString());
     EXPECT_EQ("", StrTable::LoadStr(260).toStdString());
 }
 
