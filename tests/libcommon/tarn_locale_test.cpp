@@ -20,6 +20,7 @@ TEST(TarnLocale, LanguageForLocale) {
         const QString name = QString::fromLatin1(locale);
         EXPECT_EQ(code, TarnLocale::languageForLocale(name).toStdString()) << locale;
     }
+    EXPECT_EQ(20, TarnLocale::getSupportedLanguages().size());
     EXPECT_EQ("csy", TarnLocale::getLanguageAbbrByID(19).toStdString());
     EXPECT_EQ("", TarnLocale::getLanguageAbbrByID(20).toStdString());
 }

@@ -75,9 +75,9 @@ TEST_F(LumarisPack, TheSameFolderGivesTheSameBytes) {
         mkdir -p Copy.app/Contents/Resources; cp -Rp Client.app/. Copy.app
         find Copy.app -exec touch -h -d 2001-01-01 {} +
         for options in '' '--format zip' '--filter xz --level 0' '--filter none'; do
-            rm -rf first out; TZ=Asia/Tokyo $pack Client.app first $options
+            rm -rf größe out; TZ=Asia/Tokyo $pack Client.app größe $options
             LC_ALL=C.UTF-8 TZ=America/New_York $pack Copy.app out $options
-            $verify; cmp first/package/lumaris.wpk out/package/lumaris.wpk
+            $verify; cmp größe/package/lumaris.wpk out/package/lumaris.wpk
         done
         TZ=UTC tar -tvf out/package/lumaris.wpk | grep -c ' 2001-09-09 01:46 ')"),
               "8 entries; everything is under a checksum\n"
