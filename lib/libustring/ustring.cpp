@@ -427,7 +427,8 @@ ustring ustring::normalize(const ustring &src, normalization_form form) {
         return result;
     }
     if (is_plain(src.m_data, src.m_data_len)) {  // ASCII is the same in both forms
-        return result.append(src, 0, npos);
+        result.append(src, 0, npos);  // returned as a reference, it would be copied once more
+        return result;
     }
     UErrorCode status = U_ZERO_ERROR;
     int line = __LINE__ + 1;
