@@ -107,7 +107,8 @@ protected:
         sscanf(ReadFile(lumaris / "ui.pid").c_str(), "pid=%d", &pid);
         return pid;
     }
-    /// Ends every program of this place, where /proc shows it before it has written its pid file.
+    /// Ends every program of this place. /proc, where there is one, also shows a client that has
+    /// not written its pid file yet.
     void StopClient() const {
         std::error_code none;
         for (const auto &process : fs::directory_iterator("/proc", none)) {

@@ -69,7 +69,7 @@ TEST_F(HostilePackageTest, OddEntries) {
     EXPECT_FALSE(Logged("[WARNING]")) << Log();
 }
 
-// The default format, whose end and content are under a checksum.
+// As in the default format, the compressed data say where they end.
 TEST_F(HostilePackageTest, CutAnywhere) {
     const std::string client = ReadFile(QCoreApplication::applicationFilePath().toStdString());
     WritePackage(package, ClientPackage("121", client.substr(0, 500000)), "gnutar", "zstd");
