@@ -7,8 +7,7 @@ namespace {
 
 TEST_F(LaunchTest, WritesThatFail) {
     Install();
-    WriteFile(lumaris / "log",
-              "a file");  // so that errors go to standard error, which nobody reads
+    WriteFile(lumaris / "log", "");  // so that errors go to standard error, which nobody reads
     EXPECT_EQ(0, Finish(Start({"prlimit", "--fsize=4096", "bash", "-c",
                                "exec > >(:) 2>&1; wait $!; exec \"$0\""})));
     ExpectInstalled("120");
@@ -19,8 +18,8 @@ TEST_F(LaunchTest, WritesThatFail) {
 
 // The one at work waits for its package, so the others meet it, or each other, at the lock.
 TEST_F(LaunchTest, OneOfManyWorks) {
-    const int launchers = Long() ? 50 : 20;
-    for (int round = 0; round < (Long() ? 200 : 4); ++round) {
+    const int launchers = kLong ? 50 : 20;
+    for (int round = 0; round < (kLong ? 200 : 4); ++round) {
         Install();
         kill(StartToWait(), SIGKILL);  // its lock file stays
         if (round % 2 == 1) {
@@ -47,7 +46,7 @@ TEST_F(LaunchTest, UpgradesInARow) {
         return std::distance(fs::recursive_directory_iterator(folder, none), {});
     };
     long first = 0;
-    for (int build = 1000; build <= (Long() ? 1300 : 1003); ++build) {
+    for (int build = 1000; build <= (kLong ? 1300 : 1003); ++build) {
         const pid_t before = ClientPid();
         Ship(std::to_string(build));
         EXPECT_EQ(0, Launch());
@@ -65,7 +64,7 @@ TEST_F(LaunchTest, UpgradesInARow) {
 }
 
 TEST_F(LaunchTest, SpeaksTheLanguageOfTheUser) {
-    locale = "de_DE.UTF-8";
+    setenv("LC_ALL", "de_DE.UTF-8", 1);
     const pid_t launcher = StartToWait();
     const std::string process = "/proc/" + std::to_string(launcher);
     // The text as the dialog holds it; in the catalogue the bytes of each character are swapped.

@@ -117,7 +117,7 @@ TEST_F(SweepTest, EveryCallOnTheBundle) {
                 // A look at the old bundle that fails counts as "missing": see docs/reliability.md.
                 const bool looks = call == "openat" && scenario != kFirst;
                 for (const char *error : {"ENOSPC", "EACCES", "EIO", "EINTR"}) {
-                    if (!looks && (Long() || ++drawn % 23 == 0 || call == "syncfs")) {
+                    if (!looks && (kLong || ++drawn % 23 == 0 || call == "syncfs")) {
                         Fail(scenario, call, error, number);
                     }
                 }

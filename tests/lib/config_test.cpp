@@ -1,30 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "config.h"
 
-#include <gtest/gtest.h>
-#include <unistd.h>
-
-#include <fstream>
+#include "test-support.h"
 
 namespace {
 
+using ConfigTest = HomeTest;
+
 /// What a map with an earlier entry holds after that text was read, as "key>value key>value ".
 std::string Read(const std::string &text) {
-    const std::string path = testing::TempDir() + "config_test_" + std::to_string(getpid());
-    std::ofstream(path, std::ios::binary) << text;
+    WriteFile("file", text);
     Config config;
     config["old"] = "1";
-    std::string all = config.read(path) == 0 ? "" : "refused ";
+    std::string all = config.read("file") == 0 ? "" : "refused ";
     for (const auto &[key, value] : config) {
         all.append(key.c_str()).append(">").append(value.c_str()).append(" ");
     }
-    unlink(path.c_str());
-    EXPECT_EQ(config.read(path), -1);
+    fs::remove("file");
+    EXPECT_EQ(config.read("file"), -1);
     EXPECT_EQ(config.read(""), -1);
     return all;
 }
 
-TEST(ConfigTest, AcceptsLines) {
+TEST_F(ConfigTest, AcceptsLines) {
     const std::string filled(8189, 'x');  // a longer line would count as two
     const std::string cases[][2] = {
         {"\n \t\v\f\r\n  # comment\n#\nname#x=1\nname", "old>1 "},
@@ -40,7 +38,7 @@ TEST(ConfigTest, AcceptsLines) {
     }
 }
 
-TEST(ConfigTest, OneMalformedLineEmptiesTheMap) {
+TEST_F(ConfigTest, OneMalformedLineEmptiesTheMap) {
     for (const char *text : {"name ", "name=", "name= \t\n", "a=two words\n", "a b=1\n", "[a]\n",
                              "; note\n", "\xC3\xA9=1", "a #=1\n", "a=\"open\n", "a='open\"",
                              "a='x'y\n", "a='\t'\n", "a=x\x7f\n", "a=x\x01\n", "a=1\n\na;2\n"}) {

@@ -165,8 +165,6 @@ TEST(UstringTest, BuffersFitTheText) {
 
 TEST(UstringTest, FoldsAsciiOnly) {
     for (int c = 1; c < 256; ++c) {
-        EXPECT_EQ(tolower(c) - 'm', ustring::compare(char(c), "M", true));
+        EXPECT_EQ(tolower(c) - 'm', ustring::compare(std::string{'a', char(c), 'B'}, "AMb", true));
     }
-    EXPECT_GT(ustring::compare("aB", "Aa", true), 0);
-    EXPECT_EQ(ustring::compare("aB", "Ab", true), 0);
 }

@@ -15,18 +15,11 @@ namespace {
 class VolumeTest : public HomeTest {
 protected:
     VolumeTest() {
-        fs::current_path(root);
         fs::create_directory("disk");
         UseHome("v");
     }
     ~VolumeTest() override {
         umount2(home.c_str(), MNT_FORCE | MNT_DETACH);  // ends the server, too
-    }
-    /// Shows `disk` with the rules of a Mac. False where a user may not mount, or without FUSE.
-    bool MountMac() {
-        const char *const server = "exec setpriv --pdeathsig KILL '" MAC_VOLUME "' disk v";
-        m_server.reset(popen(server, "r"));
-        return m_server && std::fgetc(m_server.get()) != EOF;
     }
     static ustring OnVolume(const char *name) { return (fs::canonical("v") / name).c_str(); }
 
@@ -52,15 +45,16 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     EXPECT_EQ(FSRemove("/proc/version", false), -3);
     EXPECT_EQ(FSRename("disk/late", "v/late", false), -3);
     EXPECT_EQ(FSCopy("disk/late/file", "v/part", true), -2);
-    EXPECT_EQ(
-        Tree("v"),
-        "dst/ dst/sub/ dst/sub/e\u0301=1 late/ late/file= moved/ moved/file=3 onto/ onto/e\u0301/ "
-        "onto/e\u0301/u\u0308=new part=");
+    EXPECT_EQ(Tree("v"),
+              "dst/ dst/sub/ dst/sub/e\u0301=1 late/ late/file= moved/ moved/file=3 onto/ "
+              "onto/e\u0301/ onto/e\u0301/u\u0308=new part=");
     EXPECT_EQ(Tree("disk"), "late/ late/file=4 src/ src/link->file");
 }
 
 TEST_F(VolumeTest, FollowsTheRulesOfAMac) {
-    if (!MountMac()) {
+    const char *const server = "exec setpriv --pdeathsig KILL '" MAC_VOLUME "' disk v";
+    m_server.reset(popen(server, "r"));
+    if (!m_server || std::fgetc(m_server.get()) == EOF) {
         GTEST_SKIP() << "this user cannot mount a volume with FUSE";
     }
     // Twins as on a volume of this type that has both.

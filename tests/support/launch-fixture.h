@@ -11,6 +11,7 @@ class LaunchTest : public HomeTest {
 protected:
     /// In a folder with a home, a temporary folder and a bundle that ships build 121.
     LaunchTest() {
+        setenv("LC_ALL", "C.UTF-8", 1);
         place = root / "M\xc3\xbcller \xe5\xae\xb6 \"1\"";
         UseHome(place.filename() / "home");
         bundle = place / "Bundle.app";
@@ -29,7 +30,7 @@ protected:
     void Ship(const std::string &build, const Entries &more = {}) {
         Entries entries = ClientPackage(build, ReadFile(CLIENT));
         entries.insert(entries.end() - 1, more.begin(), more.end());
-        WritePackage(package, entries, "gnutar", "");
+        WritePackage(package, entries);
         WriteFile(info, Info(build));
     }
     /// Ships build 121 with an end that is refused, when everything else is in place.
@@ -75,13 +76,9 @@ protected:
             close(inherited);
         }
         setenv("TMPDIR", (place / "tmp").c_str(), 1);
-        setenv("LC_ALL", locale.c_str(), 1);
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        std::vector<char *> arguments;
-        for (std::string &argument : under) {
-            arguments.push_back(argument.data());
-        }
-        arguments.push_back(nullptr);
+        std::vector<char *> arguments(under.size() + 1);  // a null at the end
+        std::transform(under.begin(), under.end(), arguments.begin(),
+                       [](std::string &argument) { return argument.data(); });
         execvp(arguments[0], arguments.data());
         _exit(98);
     }
@@ -121,5 +118,4 @@ protected:
     }
 
     fs::path place, bundle, package, info, client;
-    std::string locale = "C.UTF-8";
 };

@@ -57,7 +57,7 @@ TEST_F(HostilePackageTest, OddEntries) {
         PutOldBundle();
         fs::remove_all(out);
         WriteFile(out + "/kept", "k");
-        WritePackage(package, row.entries, row.format, "");
+        WritePackage(package, row.entries, ARCHIVE_FILTER_NONE, row.format);
         std::string bytes = ReadFile(package);
         WriteFile(package, bytes.replace(bytes.find(row.from), row.from.size(), row.to));
         EXPECT_EQ(row.installed, Install()) << Log();
@@ -72,7 +72,7 @@ TEST_F(HostilePackageTest, OddEntries) {
 // As in the default format, the compressed data say where they end.
 TEST_F(HostilePackageTest, CutAnywhere) {
     const std::string client = ReadFile(QCoreApplication::applicationFilePath().toStdString());
-    WritePackage(package, ClientPackage("121", client.substr(0, 500000)), "gnutar", "zstd");
+    WritePackage(package, ClientPackage("121", client.substr(0, 500000)), ARCHIVE_FILTER_ZSTD);
     const std::string bytes = ReadFile(package);
     for (size_t end = 0; end < bytes.size(); end += bytes.size() / 30) {
         PutOldBundle();

@@ -171,7 +171,7 @@ TEST_F(ServiceTest, ExtractorReportsListsAndCopies) {
     extractor.m_dest_path = (root / "dest").c_str();
     EXPECT_EQ(-1, extractor.List()) << "there is no package";
     const std::string data(100000, 'z');
-    WritePackage(extractor.m_src_path.c_str(), {{"one", data}, {"two", "2"}}, "gnutar", "");
+    WritePackage(extractor.m_src_path.c_str(), {{"one", data}, {"two", "2"}});
     QObject receiver;
     std::string reports;
     const auto *relay = &Notify_Adapter::GetInstance();
