@@ -32,6 +32,7 @@ void CheckForms(const ustring &u, const std::string &s) {
     EXPECT_EQ(u.length(), s.size());
     EXPECT_EQ(u.c_str(), s);
     EXPECT_EQ(reinterpret_cast<const char16_t *>(u.c_str_utf16()), Wide(s));
+    EXPECT_GT(ustring_test_access::units(u), Wide(s).size());
     EXPECT_EQ(ustring::is_valid(u), Narrow(Wide(s)) == s);
     UErrorCode status = U_ZERO_ERROR;
     const auto normal = [&](const icu::Normalizer2 *form) {

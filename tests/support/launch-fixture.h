@@ -94,11 +94,9 @@ protected:
     void LetGo() const { close(open(package.c_str(), O_WRONLY)); }
 
     std::string LauncherLog() const { return ReadFile(lumaris / "log/launcher.log"); }
-    bool HasLine(const std::string &text) const {
-        return LauncherLog().find(text) != std::string::npos;
-    }
+    bool HasLine(const std::string &text) const { return LauncherLog().find(text) != text.npos; }
     std::string Err() const { return ReadFile(place / "err"); }
-    bool Said(const std::string &text) const { return Err().find(text) != std::string::npos; }
+    bool Said(const std::string &text) const { return Err().find(text) != text.npos; }
     pid_t ClientPid() const {
         int pid = 0;
         sscanf(ReadFile(lumaris / "ui.pid").c_str(), "pid=%d", &pid);

@@ -122,7 +122,7 @@ protected:
         setenv("HOME", home.c_str(), 1);
     }
     std::string Log() const { return ReadFile(root / "log"); }
-    bool Logged(const std::string &text) const { return Log().find(text) != std::string::npos; }
+    bool Logged(const std::string &text) const { return Log().find(text) != text.npos; }
 
     fs::path root, home, lumaris, app;
 };
