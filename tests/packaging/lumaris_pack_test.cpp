@@ -6,9 +6,10 @@
 
 namespace {
 
-// Commands run in a folder of this process, where `client` makes Client.app anew.
+// Commands run in a folder of this process, none for more than 20 seconds of processor time.
+// `client` makes Client.app anew.
 const std::string kPrelude = R"(exec 2>&1; umask 022; unset SOURCE_DATE_EPOCH; export LC_ALL=C
-    dir=${TMPDIR:-/tmp}/lumaris-pack-test.$PPID; mkdir -p $dir; cd $dir
+    dir=${TMPDIR:-/tmp}/lumaris-pack-test.$PPID; mkdir -p $dir; cd $dir; ulimit -t 20
     tool=)" LUMARIS_PACK R"(; pack="$tool --build 121 --major 2 --minor 5"
     verify="$tool --verify out/package/lumaris.wpk"
     client() (
