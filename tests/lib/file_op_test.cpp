@@ -186,6 +186,8 @@ TEST_F(FileOpTest, OtherOperations) {
     other[1].size = other[2].mtime = other[3].type = 1;
     other[4].path = other[5].name = "x";
     EXPECT_EQ(std::count(other, other + 8, FILE_INFO()), 2);
+    // What stays removed is not looked up without end.
+    EXPECT_EQ(Results() << (fs::remove_all(home) > 0) << FSGetRealPath(real = "."), "1 -1");
 }
 
 }  // namespace
