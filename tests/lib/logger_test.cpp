@@ -104,7 +104,7 @@ TEST_F(LoggerTest, FailuresKeepTheStreamOrDropMessages) {
     EXPECT_EQ(fs::file_size(log), LIMIT + STAMP + 5);
     EXPECT_EQ(Start(log), 0);
     fs::remove(log);  // so that it cannot be rotated
-    Write(FILLS_THE_LOG + 'y');
+    EXPECT_EQ(Logger::Rotate(), -1);
     Write("dropped until the log is opened again\n");
     Logger::ReloadLogFile();
     Write("written\n");

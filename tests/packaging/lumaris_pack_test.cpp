@@ -95,7 +95,7 @@ TEST_F(LumarisPack, RefusesWhatTheLauncherCannotInstall) {
          "has icon_overlay_version '', the package would have '1'"},
         {"echo 'x=@Variant(' >>Resources/INFO", "INFO' holds a serialized object"},
         {"ln -s /etc/passwd l", "'Contents/l' points to an absolute"},
-        {"ln -s . here; ln -s here/../../x l", "'Contents/l' points out of the bundle"},
+        {"ln -s ./ here; ln -s here/../../x l", "'Contents/l' points out of the bundle"},
         {"ln -s l l", "'Contents/l' never arrives"},
         {"ln -s '\xff' l", "'Contents/l' points to a name that is not valid UTF-8"},
         {"chmod 4755 Library/a", "'Contents/Library/a' is set-uid"},
