@@ -123,7 +123,9 @@ TEST_F(LumarisPack, LeavesNothingBehindAndTouchesNothingThatExists) {
         "until ls -d out.* >/dev/null 2>&1 || ! kill -0 $p; do sleep .01; done; ";
     ExpectError(begin + "kill -TERM $p; wait $p", "interrupted");
     ExpectError(begin + "touch -d 2001-01-01 $f; wait $p", "'Contents/Library/a' changed while it");
-    ExpectError(begin + "truncate -s 1M $f; wait $p", "'Contents/Library/a' changed while it was");
+    ExpectError(begin + "pkill -STOP -P $p; touch -r $f .f; truncate -s 1M $f; touch -r .f $f; " +
+                    "pkill -CONT -P $p; wait $p",
+                "'Contents/Library/a' changed while it was packed");
     Output("mkdir out; touch out/mine");
     ExpectError("$pack Client.app out", "the output 'out' exists");
     ExpectError("$pack Client.app Client.app/out", "lies in the client bundle");

@@ -65,22 +65,20 @@ protected:
     pid_t Start(std::vector<std::string> under = {}) {
         alarm(kSecondsPerStep);
         under.push_back((bundle / "Contents/MacOS/launcher").string());
-        const pid_t child = fork();
-        if (child != 0) {
-            return child;
-        }
-        alarm(kSecondsPerStep - 10);
-        dup2(open((place / "out").c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0666), 1);
-        dup2(open((place / "err").c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0666), 2);
-        for (int inherited = 3; inherited < 1024; ++inherited) {
-            close(inherited);
-        }
-        setenv("TMPDIR", (place / "tmp").c_str(), 1);
-        std::vector<char *> arguments(under.size() + 1);  // a null at the end
-        std::transform(under.begin(), under.end(), arguments.begin(),
-                       [](std::string &argument) { return argument.data(); });
-        execvp(arguments[0], arguments.data());
-        _exit(98);
+        return Child([&] {
+            alarm(kSecondsPerStep - 10);
+            dup2(open((place / "out").c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0666), 1);
+            dup2(open((place / "err").c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0666), 2);
+            for (int inherited = 3; inherited < 1024; ++inherited) {
+                close(inherited);
+            }
+            setenv("TMPDIR", (place / "tmp").c_str(), 1);
+            std::vector<char *> arguments(under.size() + 1);  // a null at the end
+            std::transform(under.begin(), under.end(), arguments.begin(),
+                           [](std::string &argument) { return argument.data(); });
+            execvp(arguments[0], arguments.data());
+            _exit(98);
+        });
     }
     int Launch() { return Finish(Start()); }
     /// Starts a launcher that waits for its package, which is a pipe then, until `LetGo`.

@@ -61,7 +61,7 @@ TEST_F(ServiceTest, Versions) {
         EXPECT_TRUE(Logged(logged)) << info << Log();
         EXPECT_EQ(logged == refused, Logged(refused)) << info;
     }
-    WriteFile(resources / kInfoFile, full);
+    WriteFile(resources / kInfoFile, full + "a//x=1\n");
     service.LoadTargetVersion();
     EXPECT_TRUE(Logged("target_version = (2, 5, 121, 7)")) << Log();
 }
