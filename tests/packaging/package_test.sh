@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes the Debian package, unpacks it below a temporary root and starts the launcher in it with a fresh
-# home folder: the client has to be installed, complete and running.
+# Makes the Debian package, unpacks it below a temporary root and starts the launcher in it with a
+# fresh home folder: the client has to be installed, complete and running.
 # usage: package_test.sh CPACK BUILD_FOLDER
 set -euxo pipefail
 readonly cpack=$1 build=$2
