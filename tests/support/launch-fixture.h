@@ -95,11 +95,8 @@ protected:
     bool HasLine(const std::string &text) const { return LauncherLog().find(text) != text.npos; }
     std::string Err() const { return ReadFile(place / "err"); }
     bool Said(const std::string &text) const { return Err().find(text) != text.npos; }
-    pid_t ClientPid() const {
-        int pid = 0;
-        sscanf(ReadFile(lumaris / "ui.pid").c_str(), "pid=%d", &pid);
-        return pid;
-    }
+    /// What follows "pid=", or 0.
+    pid_t ClientPid() const { return atoi(ReadFile(lumaris / "ui.pid").erase(0, 4).c_str()); }
     /// Ends every program of this place. /proc, where there is one, also shows a client that has
     /// not written its pid file yet.
     void StopClient() const {
