@@ -81,6 +81,7 @@ TEST_F(FileOpTest, CopiesRenamesAndRemoves) {
     }
     fs::create_directory_symlink("../bad", "u\u0308/link");
     fs::permissions("dst", fs::perms(0600));
+    // The last one opens and then refuses what is written.
     EXPECT_EQ(Results() << FSCopy("src", "e\u0301/f", false) << FSCopy("src", "\u00E9/f", true)
                         << FSCopy("full/f", "dst", false) << FSCopy("src", "dst", false)
                         << FSCopy("dst", "\u00E9/f/x", true) << FSCopy(".", "void", true)

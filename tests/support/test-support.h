@@ -56,7 +56,7 @@ inline int Finish(pid_t child) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
 }
 
-/// Runs checks in a process of their own, whose failures are its exit status.
+/// Runs `checks` in a process of their own that ends with 1 if one failed, or what they start.
 inline pid_t Child(const std::function<void()> &checks) {
     const pid_t child = fork();
     if (child != 0) {

@@ -61,6 +61,7 @@ TEST_F(ServiceTest, Versions) {
         EXPECT_TRUE(Logged(logged)) << info << Log();
         EXPECT_EQ(logged == refused, Logged(refused)) << info;
     }
+    // A key that the reader lists and cannot read is no reason to refuse a file without objects.
     WriteFile(resources / kInfoFile, full + "a//x=1\n");
     service.LoadTargetVersion();
     EXPECT_TRUE(Logged("target_version = (2, 5, 121, 7)")) << Log();
