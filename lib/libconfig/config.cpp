@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "config.h"
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstring>
 #include <memory>
 #include <sstream>
+
+#include "regular-file.h"
 
 namespace {
 
@@ -35,9 +39,14 @@ int Config::read(const ustring &path) {
     if (path.empty()) {
         return -1;
     }
-    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.c_str(), "r"),
+    const int descriptor = OpenTextFile(path);
+    if (descriptor < 0) {
+        return -1;
+    }
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(fdopen(descriptor, "r"),
                                                                 std::fclose);
     if (file == nullptr) {
+        close(descriptor);
         return -1;
     }
 

@@ -12,8 +12,8 @@
 class Config : public std::map<ustring, ustring> {
 public:
     /// Adds every key of the file at `path`; later keys replace earlier ones, entries of earlier
-    /// reads stay. Returns 0, or -1 when the path is empty, the file cannot be opened or a line is
-    /// malformed (the map is then empty).
+    /// reads stay. Returns 0, or -1 when the path is empty, the file cannot be opened, is no regular
+    /// file or larger than 1 MiB, or a line is malformed (the map is then empty).
     int read(const ustring &path);
 
     /// Examines one NUL-terminated line of `length` bytes and writes NUL bytes behind its key and

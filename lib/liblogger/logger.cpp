@@ -3,12 +3,14 @@
 
 #include <fcntl.h>
 #include <syslog.h>
+#include <unistd.h>
 
 #include <array>
 #include <ctime>
 #include <new>
 
 #include "config.h"
+#include "regular-file.h"
 
 namespace {
 
@@ -25,11 +27,11 @@ std::array<char, 1024> RotatedName(char const *path, int index) {
     return name;
 }
 
-/// For appending; the programs that this one starts do not inherit it.
 FILE *OpenForAppending(ustring const &path) {
-    FILE *const stream = fopen(path.c_str_utf8(), "a");
-    if (stream != nullptr) {
-        fcntl(fileno(stream), F_SETFD, FD_CLOEXEC);
+    int const file = OpenRegularFile(path, O_WRONLY | O_APPEND | O_CREAT);
+    FILE *const stream = file < 0 ? nullptr : fdopen(file, "a");
+    if (file >= 0 && stream == nullptr) {
+        close(file);
     }
     return stream;
 }
@@ -87,6 +89,7 @@ int Threshold(ustring const &component) {
 int WriteTimeStamp(FILE *stream) {
     time_t const now = time(nullptr);
     struct tm local = {};
+    tzset();  // localtime_r() need not notice that the zone was changed
     localtime_r(&now, &local);
     char stamp[512] = "";
     strftime(stamp, sizeof(stamp), "%b %d %H:%M:%S ", &local);

@@ -7,7 +7,7 @@
 #include "sync-volume.h"
 
 int SyncVolume(const ustring &path) {
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) {
         return -1;
     }
