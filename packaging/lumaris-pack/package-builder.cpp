@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "package-builder.h"
 
-#include <QFile>
 #include <filesystem>
 #include <stdexcept>
 
@@ -27,10 +26,7 @@ void RequireOutside(const BuildRequest &request) {
 // How the INFO file of the bundle, read as the launcher reads it, differs from the version; empty
 // when all values agree.
 std::string InfoDifference(const BuildRequest &request) {
-    InfoTexts texts;
-    if (ReadInfoFile(QFile::decodeName((request.client + "/" + kClientInfo).c_str()), texts) != 0) {
-        return "holds a serialized object, for which the launcher ignores it";
-    }
+    const InfoTexts texts = ReadInfoFile((request.client + "/" + kClientInfo).c_str());
     for (std::size_t i = 0; i < texts.size(); ++i) {
         const std::string found = texts[i] ? texts[i]->toStdString() : std::string();
         if (found != request.version[i]) {

@@ -153,10 +153,6 @@ private:
             Refuse("the last entry but one is not " + Quoted(kClientExecutable));
         }
         m_rules.CheckClientFiles();
-        InfoTexts texts;
-        if (ParseInfo(m_data, texts) != 0) {
-            Refuse(Quoted(kClientInfo) + " holds a serialized object");
-        }
     }
 
     // What the launcher does not look at, though it shows that the package was cut or damaged.

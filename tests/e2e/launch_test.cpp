@@ -6,6 +6,10 @@
 namespace {
 
 TEST_F(LaunchTest, InstallsUpgradesAndLeavesAlone) {
+    EXPECT_EQ(0, Finish(Start({"sh", "-c", "umask 0; exec \"$0\""})));
+    EXPECT_EQ(fs::perms(0755), fs::status(lumaris).permissions()) << "others could write there";
+    StopClient();
+    fs::remove_all(lumaris);
     EXPECT_EQ(0, Launch());
     EXPECT_EQ("lib path = '" + (bundle / "Contents/Frameworks/plugins").string() + "'\n",
               ReadFile(place / "out"));
@@ -37,13 +41,60 @@ TEST_F(LaunchTest, WithoutALogFolderErrorsGoToStandardError) {
     EXPECT_FALSE(Said("[DEBUG]")) << Err();
 }
 
-TEST_F(LaunchTest, NoPluginFolderIsSaidAndTouchesNothing) {
+TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
+    const fs::path pid = lumaris / "ui.pid", installed = app / "Contents/Resources/INFO";
+    const fs::path levels = bundle / "log/launcher.debug", log = lumaris / "log/launcher.log";
+    const auto pipe = [](const fs::path &path) { EXPECT_EQ(0, mkfifo(path.c_str(), 0600)); };
+    const auto endless = [](const fs::path &path) { fs::create_symlink("/dev/zero", path); };
+    const auto huge = [](const fs::path &path) {
+        WriteFile(path, Info("121"));
+        fs::resize_file(path, 800 << 20);
+    };
+    const struct {
+        const char *what;
+        fs::path path;
+        std::function<void(const fs::path &)> make;
+    } rows[] = {
+        {"a pipe as pid file", pid, pipe},       {"an endless pid file", pid, endless},
+        {"a pipe as INFO", installed, pipe},     {"an endless INFO", installed, endless},
+        {"an INFO of 800 MB", installed, huge},  {"a pipe as log", log, pipe},
+        {"an endless log", log, endless},        {"a pipe as thresholds", levels, pipe},
+        {"endless thresholds", levels, endless},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        Install();
+        fs::create_directory(lumaris / "log");
+        fs::remove(row.path);
+        row.make(row.path);
+        EXPECT_EQ(0, Finish(Start({"timeout", "10"})));
+        EXPECT_TRUE(fs::exists(app / "Contents/Resources/gr\xc3\xbc\xc3\x9f.txt"))
+            << "not installed";
+        StopClient();
+    }
+}
+
+TEST_F(LaunchTest, FollowsALinkToAnInfoFile) {
     Install();
-    const std::string before = Tree(home);
-    fs::remove(bundle / "Contents/Frameworks");
-    EXPECT_NE(0, Launch());
-    EXPECT_EQ(before, Tree(home));
-    EXPECT_TRUE(Said("Contents/Frameworks/plugins' does not exist\n")) << Err();
+    fs::rename(app / "Contents/Resources/INFO", lumaris / "INFO");
+    fs::create_symlink("../../../INFO", app / "Contents/Resources/INFO");
+    WriteFile(lumaris / "INFO", Info("121"));
+    EXPECT_EQ(0, Launch());
+    EXPECT_TRUE(HasLine("): no need to upgrade\n")) << LauncherLog();
+}
+
+// The limit counts the threads of a user, and not those of root.
+TEST_F(LaunchTest, LeavesWithoutAThread) {
+    fs::permissions(root, fs::perms(0711));
+    std::vector<std::string> under = {"prlimit", "--nproc=1"};
+    if (geteuid() == 0) {
+        for (const fs::path &path : {home, place / "tmp"}) {
+            EXPECT_EQ(0, chown(path.c_str(), 65534, 65534));
+        }
+        under.insert(under.begin(), {"setpriv", "--reuid=65534", "--clear-groups"});
+    }
+    EXPECT_EQ(0, Finish(Start(under)));
+    EXPECT_TRUE(HasLine("failed to start the worker thread\n")) << LauncherLog() << Err();
 }
 
 TEST_F(LaunchTest, StaleEntriesInTheWay) {
@@ -67,29 +118,44 @@ TEST_F(LaunchTest, OnlyOneLauncherWorks) {
     LetGo();
     EXPECT_EQ(0, Finish(first));
     ExpectInstalled("120");  // the pipe held no package
-    StopClient();
+}
 
-    // A lock that cannot be taken stops nobody from getting at the backups.
-    fs::remove(package);
-    Ship("121");
+TEST_F(LaunchTest, ALockThatIsNotOursStopsNobody) {
+    Install();
+    ExpectLaunch("121");
     fs::path lock;  // beside what the toolkit keeps there
     for (const auto &entry : fs::directory_iterator(place / "tmp")) {
         lock = entry.is_regular_file() ? entry.path() : lock;
     }
-    ASSERT_TRUE(fs::remove(lock)) << Tree(place / "tmp");
-    fs::create_directories(lock / "cannot be opened as a file");
-    ExpectLaunch("121");
-    fs::remove_all(lock);
-    if (geteuid() != 0) {
-        GTEST_SKIP() << "only root can give a lock file to another user";
+    const struct {
+        const char *what;
+        std::function<void()> make;
+    } rows[] = {
+        {"a folder", [&] { fs::create_directories(lock / "x"); }},
+        {"a file with a second name",
+         [&] {
+             WriteFile(place / "tmp/other", "");
+             fs::create_hard_link(place / "tmp/other", lock);
+         }},
+        {"a file of another user",
+         [&] {
+             WriteFile(lock, "");
+             EXPECT_EQ(0, chown(lock.c_str(), 65534, 65534));
+         }},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        if (row.what == rows[2].what && geteuid() != 0) {
+            GTEST_SKIP() << "only root can give a file to another user";
+        }
+        fs::remove_all(lock);
+        row.make();
+        const int other = open(lock.c_str(), O_RDONLY | O_CLOEXEC);
+        EXPECT_EQ(0, flock(other, LOCK_EX));
+        Install();
+        ExpectLaunch("121");
+        close(other);
     }
-    WriteFile(lock, "");
-    EXPECT_EQ(0, chown(lock.c_str(), 65534, 65534));
-    const int foreign = open(lock.c_str(), O_RDONLY | O_CLOEXEC);
-    EXPECT_EQ(0, flock(foreign, LOCK_EX));
-    Install();
-    ExpectLaunch("121");
-    close(foreign);
 }
 
 }  // namespace

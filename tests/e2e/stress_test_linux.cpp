@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Writes that fail, many launchers at once, many upgrades in a row.
 
+#include <sys/file.h>
+
 #include "launch-fixture.h"
 
 namespace {
@@ -38,6 +40,49 @@ TEST_F(LaunchTest, OneOfManyWorks) {
         StopClient();  // and the launcher that works
         EXPECT_GT(wait(nullptr), 0);
     }
+}
+
+TEST_F(LaunchTest, TwoBundlesOnOneHome) {
+    const fs::path newer = bundle, older = place / "Older.app";
+    fs::copy(bundle, older, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    Ship("122");
+    ExpectLaunch("122");
+    const std::string whole = Tree(app);
+    for (int round = 0; round < (kLong ? 200 : 10); ++round) {
+        Install();
+        const pid_t first = Start();
+        bundle = older;
+        const pid_t second = Start();
+        bundle = newer;
+        EXPECT_EQ(0, Finish(first));
+        EXPECT_EQ(0, Finish(second));
+        ExpectLaunch("122");
+        EXPECT_EQ(whole, Tree(app)) << "round " << round << LauncherLog();
+        EXPECT_EQ("", Leftovers()) << "round " << round;
+    }
+}
+
+TEST_F(LaunchTest, WaitsForTheLauncherOfAnotherBundle) {
+    Install();
+    const int other = open(lumaris.c_str(), O_RDONLY | O_CLOEXEC);
+    EXPECT_EQ(0, flock(other, LOCK_EX));
+    const pid_t launcher = Start();
+    EXPECT_TRUE(Eventually([this] { return HasLine("): waiting for the launcher"); }));
+    WriteFile(app / "Contents/Resources/INFO", Info("121"));
+    close(other);
+    EXPECT_EQ(0, Finish(launcher));
+    EXPECT_TRUE(HasLine("): no need to upgrade\n")) << "it decided before the wait";
+}
+
+// The minute of waiting is skipped.
+TEST_F(LaunchTest, GoesOnWhenAnotherLauncherHangs) {
+    Install();
+    const int other = open(lumaris.c_str(), O_RDONLY | O_CLOEXEC);
+    EXPECT_EQ(0, flock(other, LOCK_EX));
+    ExpectLaunch("121", {"strace", "-f", "-bexecve", "-o/dev/null", "-etrace=clock_nanosleep",
+                         "-einject=clock_nanosleep:retval=0"});
+    EXPECT_TRUE(HasLine("[WARNING] lumaris-service")) << LauncherLog();
+    close(other);
 }
 
 TEST_F(LaunchTest, UpgradesInARow) {

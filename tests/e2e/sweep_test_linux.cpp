@@ -2,22 +2,39 @@
 // Disturbs the launcher at every system call that touches the bundle or its log, and looks what is
 // left. strace numbers and disturbs the calls of the unmodified launcher, each thread for itself.
 
+#include <map>
+
 #include "launch-fixture.h"
 
 namespace {
 
-const char *const kCalls[] = {"openat", "write", "mkdir", "rename", "unlink", "rmdir", "syncfs"};
 enum Scenario { kFirst, kUpgrade, kRollback };
+
+/// The system call of that name and number in its thread.
+struct Point {
+    std::string call;
+    int number;
+};
+
+std::ostream &operator<<(std::ostream &out, const Point &point) {
+    return out << point.call << " " << point.number;
+}
 
 class SweepTest : public LaunchTest {
 protected:
-    SweepTest() {
+    void SetUp() override {
+        if (system("strace -o /dev/null true") != 0) {
+            GTEST_SKIP() << "needs strace, and the permission to use it";
+        }
         Install();
         old_tree = Tree(app);
         Watch();
         ExpectLaunch("121");
         new_tree = Tree(app);
         Watch();
+        for (const char *link : {"_upgrade", "_upgraded"}) {
+            watched.insert("-P" + app.string() + link);
+        }
     }
     /// Calls on what is installed now count, and on the same in a backup.
     void Watch() {
@@ -30,106 +47,200 @@ protected:
         }
     }
 
-    /// Starts the launcher in that state with a fault injected. False when the call never comes.
-    bool Disturb(Scenario scenario, const std::string &call, const std::string &fault) {
+    void Prepare(Scenario scenario) {
         StopClient();
         Install();
         if (scenario == kFirst) {
             fs::remove_all(lumaris);
         }
         scenario == kRollback ? ShipDamaged() : Ship("121");
-        const fs::path record = place / "record";
+    }
+    /// Starts the launcher under strace with the system calls on what is watched in `record`.
+    void Trace(const std::string &option) {
         // The client is let go when it starts: it would keep strace from ending.
-        std::vector<std::string> strace = {"strace", "-f", "-bexecve", "-o" + record.string()};
-        strace.insert(strace.end(), {"-etrace=" + call, "-einject=" + call + ":" + fault});
+        std::vector<std::string> strace = {"strace", "-f", "--seccomp-bpf", "-bexecve",
+                                           "-o" + record.string()};
+        strace.push_back("-etrace=openat,write,symlink,mkdir,rename,unlink,rmdir,syncfs");
+        strace.push_back(option);
         strace.insert(strace.end(), watched.begin(), watched.end());
         status = Finish(Start(strace));
-        return status > 1000 || ReadFile(record).find("(INJECTED)") != std::string::npos;
+    }
+    /// The calls of an undisturbed start.
+    std::vector<Point> Points() {
+        Trace("-qq");
+        EXPECT_EQ(0, status);
+        std::map<std::string, int> last;  // by "thread call"
+        std::vector<Point> points;
+        std::ifstream lines(record);
+        for (std::string thread, call; lines >> thread; std::getline(lines, call)) {
+            std::getline(lines, call, '(');
+            call.erase(0, call.find_first_not_of(' '));
+            const int number = ++last[thread + " " + call];
+            const bool known = std::any_of(points.begin(), points.end(), [&](const Point &point) {
+                return point.call == call && point.number == number;
+            });
+            if (!known && std::all_of(call.begin(), call.end(), islower)) {
+                points.push_back({call, number});
+            }
+        }
+        return points;
+    }
+    void Disturb(const Point &point, const std::string &fault) {
+        Trace("-einject=" + point.call + ":" + fault + ":when=" + std::to_string(point.number));
+    }
+    void Kill(const Point &point, int signal = SIGKILL) {
+        Disturb(point, "signal=" + std::to_string(signal));
+        EXPECT_EQ(1000 + signal, status) << "never hit";
+    }
+
+    /// A start with a package that is newer and refused: a whole client is there and runs.
+    void ExpectAWholeClient() {
+        Ship("122", {{"x/../../y"}});
+        EXPECT_EQ(0, Launch());
+        const std::string state = Tree(app);
+        EXPECT_TRUE(state == old_tree || state == new_tree) << Tree(lumaris) << LauncherLog();
+        EXPECT_TRUE(Eventually([this] { return ClientPid() > 0; })) << LauncherLog();
     }
     /// An undisturbed start with the good package: the new bundle, its client, nothing beside.
     void StartAgain() {
-        const bool complete = Tree(app) == new_tree;
         StopClient();
         Ship("121");
         ExpectLaunch("121");
         EXPECT_EQ(new_tree, Tree(app)) << LauncherLog();
-        // Where the first start had installed everything, no upgrade comes that would remove it.
-        EXPECT_TRUE(complete || !fs::exists(Backup())) << "left over";
-        EXPECT_FALSE(fs::exists(Backup(1)));
+        EXPECT_EQ("", Leftovers()) << LauncherLog();
     }
 
-    /// Ways on from a kill: the good package, and in an upgrade before it a damaged one.
-    bool Kill(Scenario scenario, const std::string &call, int signal, int number) {
-        const std::string fault = "signal=" + std::to_string(signal);
-        if (!Disturb(scenario, call, fault + ":when=" + std::to_string(number))) {
-            return false;
-        }
-        EXPECT_EQ(1000 + signal, status);
-        if (call == "syncfs") {  // what goes to the disk is whole, and the backup still there
-            EXPECT_EQ(new_tree, Tree(app));
-            EXPECT_EQ(scenario == kUpgrade, fs::exists(Backup()));
-        }
-        if (scenario == kUpgrade) {
-            fs::copy(home, place / "killed", fs::copy_options::recursive);
-            WritePackage(package, {{"first", "1"}, {"x/../../y"}});
-            EXPECT_EQ(0, Launch());
-            EXPECT_TRUE(Eventually([this] { return ClientPid() > 0; })) << LauncherLog();
-            StartAgain();
-            fs::remove_all(home);
-            fs::rename(place / "killed", home);
-        }
-        StartAgain();
-        return true;
-    }
-    void Fail(Scenario scenario, const std::string &call, const std::string &error, int number) {
-        SCOPED_TRACE(error);
-        EXPECT_TRUE(Disturb(scenario, call, "error=" + error + ":when=" + std::to_string(number)));
+    void Fail(Scenario scenario, const Point &point, const std::string &error) {
+        Prepare(scenario);
+        Disturb(point, "error=" + error);
+        EXPECT_NE(std::string::npos, ReadFile(record).find("(INJECTED)")) << "never hit";
         EXPECT_EQ(0, status);
         const std::string state = Tree(app);
         EXPECT_TRUE(state == (scenario == kRollback ? old_tree : new_tree) || HasLine("[ERROR]") ||
                     Said("[ERROR]"))
             << "not told, " << state;
-        EXPECT_TRUE(call != "syncfs" || HasLine("[WARNING]")) << LauncherLog();
-        // A rollback that fails itself leaves what there is to the next start.
-        const bool undoes = call == "unlink" || call == "rmdir" || call == "rename";
-        if (scenario == kUpgrade || (scenario == kRollback && !undoes)) {
+        const bool warns = point.call == "syncfs" || point.call == "symlink";
+        EXPECT_TRUE(!warns || HasLine("[WARNING]")) << LauncherLog();
+        // A rename back that fails leaves the old bundle to the next start.
+        if (scenario == kUpgrade || (scenario == kRollback && point.call != "rename")) {
             EXPECT_TRUE(state == old_tree || state == new_tree) << Tree(lumaris) << LauncherLog();
             EXPECT_TRUE(Eventually([this] { return ClientPid() > 0; })) << LauncherLog();
         }
         StartAgain();
     }
 
+    const fs::path record = place / "record";
     std::set<std::string> watched;
     std::string old_tree, new_tree;
     int status = 0;
 };
 
-TEST_F(SweepTest, EveryCallOnTheBundle) {
-    if (system("strace -o /dev/null true") != 0) {
-        GTEST_SKIP() << "needs strace, and the permission to use it";
-    }
-    int points = 0, drawn = 0;
+TEST_F(SweepTest, KilledAtAnyCall) {
+    int points = 0;
     for (const Scenario scenario : {kFirst, kUpgrade, kRollback}) {
-        for (const std::string call : kCalls) {
-            SCOPED_TRACE(std::to_string(scenario) + call);
-            for (int number = 1; Kill(scenario, call, SIGKILL, number); ++number) {
-                ++points;
-                // A look at the old bundle that fails counts as "missing": see docs/reliability.md.
-                const bool looks = call == "openat" && scenario != kFirst;
-                for (const char *error : {"ENOSPC", "EACCES", "EIO", "EINTR"}) {
-                    if (!looks && (kLong || ++drawn % 23 == 0 || call == "syncfs")) {
-                        Fail(scenario, call, error, number);
-                    }
+        Prepare(scenario);
+        for (const Point &point : Points()) {
+            SCOPED_TRACE(testing::Message() << scenario << " " << point);
+            Prepare(scenario);
+            Kill(point);
+            if (point.call == "syncfs") {  // what goes to the disk is whole, the backup still there
+                EXPECT_EQ(new_tree, Tree(app));
+                EXPECT_EQ(scenario == kUpgrade, fs::exists(Backup()));
+            }
+            if (scenario != kFirst) {
+                ExpectAWholeClient();
+            }
+            StartAgain();
+            ++points;
+        }
+    }
+    EXPECT_GT(points, 100);
+    printf("%d calls\n", points);
+}
+
+// An upgrade is killed, the next start is killed, and then the package is refused.
+TEST_F(SweepTest, KilledTwice) {
+    const auto copy = [](const fs::path &from, const fs::path &to) {
+        fs::remove_all(to);
+        fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    };
+    int pairs = 0, drawn = 0;
+    Prepare(kUpgrade);
+    for (const Point &first : Points()) {
+        Prepare(kUpgrade);
+        Kill(first);
+        copy(home, place / "killed");
+        for (const Point &second : Points()) {
+            if (!kLong && ++drawn % 79 != 0) {  // about one second kill for each first one
+                continue;
+            }
+            SCOPED_TRACE(testing::Message() << first << ", " << second);
+            copy(place / "killed", home);
+            Ship("121");
+            Kill(second);
+            ExpectAWholeClient();
+            StartAgain();
+            ++pairs;
+        }
+    }
+    EXPECT_GT(pairs, 30);
+    printf("%d pairs\n", pairs);
+}
+
+TEST_F(SweepTest, FailingCalls) {
+    int drawn = 0;
+    for (const Scenario scenario : {kFirst, kUpgrade, kRollback}) {
+        Prepare(scenario);
+        for (const Point &point : Points()) {
+            // A look at the old bundle that fails counts as "missing".
+            const bool looks = point.call == "openat" && scenario != kFirst;
+            for (const char *error : {"ENOSPC", "EACCES", "EIO", "EINTR"}) {
+                if (!looks && (kLong || ++drawn % 23 == 0 || point.call == "syncfs")) {
+                    SCOPED_TRACE(testing::Message() << scenario << " " << point << " " << error);
+                    Fail(scenario, point, error);
                 }
             }
         }
     }
+}
+
+// What the launcher wrote since is not on the disk yet, unless it was synced; only INFO is, which
+// some other program has synced.
+TEST_F(SweepTest, PowerLost) {
+    setenv("disk", (place / "disk").c_str(), 1);
+    setenv("home", home.c_str(), 1);
+    if (system("truncate -s 64M \"$disk\" && mkfs.ext4 -q \"$disk\" && "
+               "mount -o loop \"$disk\" \"$home\" 2>/dev/null") != 0) {
+        GTEST_SKIP() << "needs to mount an image";
+    }
+    Prepare(kUpgrade);
+    for (const Point &point : Points()) {
+        if (!kLong && point.call != "syncfs" && point.call != "rename") {
+            continue;  // the steps before and after the sync
+        }
+        SCOPED_TRACE(testing::Message() << point);
+        Prepare(kUpgrade);
+        EXPECT_EQ(0, system("sync -f \"$home\""));
+        Kill(point);
+        const int written = open((app / "Contents/Resources/INFO").c_str(), O_RDONLY | O_CLOEXEC);
+        fsync(written);
+        close(written);
+        EXPECT_EQ(0, system("cp \"$disk\" \"$disk.cut\" && umount \"$home\" && "
+                            "mv \"$disk.cut\" \"$disk\" && mount -o loop \"$disk\" \"$home\""));
+        ExpectAWholeClient();
+        StartAgain();
+    }
+    StopClient();
+    EXPECT_EQ(0, system("umount \"$home\""));
+}
+
+TEST_F(SweepTest, AskedToEndAtTheSync) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         ::signal(signal, SIG_DFL);  // a suite in the background has it ignored
-        EXPECT_TRUE(Kill(kUpgrade, "syncfs", signal, 1));
+        Prepare(kUpgrade);
+        Kill({"syncfs", 1}, signal);
+        StartAgain();
     }
-    EXPECT_GT(points, 80);
-    printf("%d calls\n", points);
 }
 
 }  // namespace

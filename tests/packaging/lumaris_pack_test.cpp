@@ -93,7 +93,6 @@ TEST_F(LumarisPack, RefusesWhatTheLauncherCannotInstall) {
         {"ln -sf ../Library/a MacOS/lumaris-backup-ui", "backup-ui' is not a plain file"},
         {"sed -i /icon/d Resources/INFO",
          "has icon_overlay_version '', the package would have '1'"},
-        {"echo 'x=@Variant(' >>Resources/INFO", "INFO' holds a serialized object"},
         {"ln -s /etc/passwd l", "'Contents/l' points to an absolute"},
         {"ln -s ./ here; ln -s here/../../x l", "'Contents/l' points out of the bundle"},
         {"ln -s l l", "'Contents/l' never arrives"},
@@ -171,7 +170,6 @@ TEST_F(LumarisPack, VerifyNamesWhatTheLauncherWouldRefuse) {
         {"store $i $e x", "the last entry is not 'Contents/Resources/INFO'"},
         {"store $e x $i", "the last entry but one is not 'Contents/MacOS/lumaris-backup-ui'"},
         {"chmod 644 $e; store $e $i; chmod 755 $e", "backup-ui' is not executable"},
-        {"echo 'x=@Variant(' >>$i; store $e $i", "INFO' holds a serialized object"},
     };
     Output("client; mkdir out");
     for (const auto &[make, line] : cases) {

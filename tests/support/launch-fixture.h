@@ -47,6 +47,15 @@ protected:
     fs::path Backup(int index = 0) const {
         return app.string() + "_tmp" + (index == 0 ? "" : std::to_string(index));
     }
+    /// The names beside the bundle that an upgrade must not leave behind.
+    std::string Leftovers() const {
+        std::string names;
+        for (const auto &entry : fs::directory_iterator(lumaris)) {
+            const std::string name = entry.path().filename().string();
+            names += name.rfind("Lumaris.app_", 0) == 0 ? name + " " : "";
+        }
+        return names;
+    }
     void ExpectInstalled(const std::string &build) const {
         EXPECT_EQ(Info(build), ReadFile(app / "Contents/Resources/INFO")) << LauncherLog() << Err();
         EXPECT_EQ(ReadFile(CLIENT), ReadFile(client)) << LauncherLog();

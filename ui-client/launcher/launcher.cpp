@@ -52,7 +52,9 @@ bool Launcher::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void Launcher::Run() {
-    worker->StartThread();
+    if (!worker->StartThread()) {
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    }
 }
 
 void Launcher::Start() {

@@ -18,7 +18,7 @@ public:
     /// does, and a run that has begun is finished all the same.
     ~Launcher() override;
 
-    /// Starts the worker thread; called once.
+    /// Starts the worker thread; called once. Without a thread the event loop ends at once.
     void Run();
     /// Requests the service run; called once, after `Run`.
     void Start();

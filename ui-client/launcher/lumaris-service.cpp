@@ -17,6 +17,7 @@
 #include "log-macros.h"
 #include "qt-text.h"
 #include "sync-volume.h"
+#include "upgrade-journal.h"
 
 #define LOG_MODULE "lumaris-service"
 static const ustring LOG_COMPONENT("service_debug");
@@ -24,6 +25,7 @@ static const ustring LOG_COMPONENT("service_debug");
 namespace {
 
 const int kBackupNames = 10;
+const int kAsideNames = 100;  // more than backups, whose names can all be taken
 
 /// Name under which the bundle is kept during an upgrade: "_tmp", "_tmp1" to "_tmp9".
 ustring GetAppBackupDir(const ustring &app, int index) {
@@ -42,10 +44,7 @@ ustring GetAppBackupDir(const ustring &app, int index) {
 /// Reads the keys that the INFO file at `path` holds into their members, in the order of the keys.
 void LoadVersion(const ustring &path,
                  const std::array<ustring *, std::tuple_size<InfoTexts>::value> &members) {
-    InfoTexts texts;
-    if (ReadInfoFile(ToQString(path), texts) != 0) {
-        MSG_WARNING("ignored '%s': it holds more than text\n", path.c_str());
-    }
+    const InfoTexts texts = ReadInfoFile(path);
     for (std::size_t i = 0; i < members.size(); ++i) {
         if (texts[i]) {
             *members[i] = ToUString(*texts[i]);
@@ -53,14 +52,17 @@ void LoadVersion(const ustring &path,
     }
 }
 
-/// Moves the bundle to the first backup name that is free. Returns its index and sets `backup`,
-/// or returns -1 when every name is taken.
-int BackupApp(const ustring &app, ustring &backup) {
+/// Moves the bundle to the first backup name that is free, recorded in the journal. Returns its
+/// index and sets `backup`, or returns -1 when every name is taken.
+int BackupApp(const ustring &app, UpgradeJournal &journal, ustring &backup) {
     for (int index = 0; index < kBackupNames; ++index) {
         backup = GetAppBackupDir(app, index);
+        rmdir(backup.c_str());  // an empty folder, which the bundle would replace
+        journal.Begin(backup);
         if (FSRename(app, backup, false) == 0) {
             return index;
         }
+        journal.End();
         MSG_ERROR("failed to backup app from '%s' -> '%s'\n", app.c_str(), backup.c_str());
     }
     MSG_ERROR("failed to backup app from '%s' -> '%s' at max retries, exiting\n", app.c_str(),
@@ -68,45 +70,100 @@ int BackupApp(const ustring &app, ustring &backup) {
     return -1;
 }
 
-/// 2 for a whole client. A package ends with the executable and then INFO, so an extraction that
-/// was cut short lacks INFO, or both and then gives 0.
-int Completeness(const ustring &bundle) {
-    const auto has = [&bundle](const std::string &file) {
-        return access((bundle + "/" + file).c_str(), F_OK) == 0;
-    };
-    return !has(kClientExecutable) ? 0 : has(std::string(kResources) + "/" + kInfoFile) ? 2 : 1;
+/// Removes the backups with the indices 0 to `last`. While one of them stays, so does the record:
+/// the next start tries again.
+void RemoveBackups(const ustring &app, int last, UpgradeJournal &journal) {
+    bool removed = true;
+    for (int index = 0; index <= last; ++index) {
+        removed = FSRemove(GetAppBackupDir(app, index), false) == 0 && removed;
+    }
+    if (removed) {
+        journal.End();
+    }
 }
 
-/// After two failed upgrades in a row the bundle can be a partial one, while the last whole client
-/// lies in a backup of the first: the most complete backup then takes the bundle's place. Nothing
-/// happens when no backup is more complete than the bundle.
-void RestoreClient(const ustring &app) {
-    ustring best = app;
+/// The index of a backup name, -1 for any other path.
+int BackupIndex(const ustring &app, const ustring &backup) {
     for (int index = 0; index < kBackupNames; ++index) {
-        const ustring backup = GetAppBackupDir(app, index);
-        if (Completeness(backup) > Completeness(best)) {
-            best = backup;
+        if (GetAppBackupDir(app, index) == backup) {
+            return index;
         }
     }
-    if (best == app) {
+    return -1;
+}
+
+/// Makes room for the new bundle. Returns the index of the last backup name that is to be removed
+/// at the end and sets `backup` where there is an old bundle; -1 when there is no room.
+int MoveAside(const ustring &app, UpgradeJournal &journal, ustring &backup) {
+    if (journal.IsBegun(backup)) {
+        // The recovery could not put the old bundle back: its backup is that of this upgrade, too.
+        return IsFileExist(app, false) ? -1 : BackupIndex(app, backup);
+    }
+    if (IsFileExist(app, false)) {
+        return BackupApp(app, journal, backup);
+    }
+    journal.Begin(backup);
+    return 0;
+}
+
+/// Frees the bundle's name of what an extraction left there. What cannot be removed is renamed:
+/// the old bundle must get its name back whatever a package held. Returns the name that the remains
+/// have then, if any.
+ustring Discard(const ustring &app) {
+    if (FSRemove(app, false) == 0) {
+        return ustring();
+    }
+    for (int index = 0; index < kAsideNames; ++index) {
+        const ustring aside = GetAppBackupDir(app, index);
+        if (!IsFileExist(aside, false) && FSRename(app, aside, false) == 0) {
+            MSG_WARNING("cannot remove '%s', renamed it to '%s'\n", app.c_str(), aside.c_str());
+            return aside;
+        }
+    }
+    MSG_ERROR("cannot remove '%s'\n", app.c_str());
+    return ustring();
+}
+
+/// Puts the old bundle in place of what an extraction left. After a failure the record stays: the
+/// next start tries again.
+void PutBack(const ustring &app, const ustring &backup, UpgradeJournal &journal) {
+    const ustring aside = Discard(app);
+    if (FSRename(backup, app, false) != 0) {
+        MSG_ERROR("failed to rename '%s' back to '%s'\n", backup.c_str(), app.c_str());
         return;
     }
-    MSG_WARNING("no whole client in '%s', restoring '%s'\n", app.c_str(), best.c_str());
-    if (FSRemove(app, false) != 0 || FSRename(best, app, false) != 0) {
-        MSG_ERROR("failed to restore '%s' from '%s'\n", app.c_str(), best.c_str());
+    if (journal.End() && !aside.empty()) {
+        FSRename(aside, backup, false);  // the next good upgrade removes it from there
     }
 }
 
-/// Puts the old bundle back in place of whatever the extraction left. An empty `backup` means that
-/// there was no old bundle.
-void Rollback(const ustring &app, const ustring &backup) {
+/// Handles a failed extraction. An empty `backup` means that there was no old bundle; what was
+/// extracted stays then.
+void Rollback(const ustring &app, const ustring &backup, UpgradeJournal &journal) {
     if (backup.empty()) {
         MSG_ERROR("Failed to extract package, and no old installation to rollback\n");
+        journal.End();
         return;
     }
     MSG_ERROR("Failed to extract package, rollback to old installation\n");
-    FSRemove(app, false);
-    FSRename(backup, app, false);
+    PutBack(app, backup, journal);
+}
+
+/// Undoes an upgrade that an earlier start began. An empty `backup` means a first installation.
+void GoBack(const ustring &app, const ustring &backup, UpgradeJournal &journal) {
+    FILE_INFO info;
+    if (backup.empty()) {
+        Discard(app);
+        journal.End();
+    } else if (BackupIndex(app, backup) < 0) {
+        journal.End();  // it names nothing of ours
+    } else if (GetFileInfo(backup, info) == 0) {
+        if (info.exists) {
+            PutBack(app, backup, journal);
+        } else {
+            journal.End();  // the old bundle was not moved yet, or is back already
+        }
+    }
 }
 
 }  // namespace
@@ -139,21 +196,29 @@ void Service::LoadSourceVersion() {
              m_source_icon_overlay_version.c_str());
 }
 
+void Service::RecoverUserEnv() {
+    const ustring app = m_user_app_path;
+    UpgradeJournal journal(app);
+    ustring backup;
+    if (journal.IsBegun(backup)) {
+        MSG_WARNING("the last upgrade of '%s' was not finished, going back\n", app.c_str());
+        GoBack(app, backup, journal);
+    } else if (journal.IsCommitted(backup)) {
+        // A first installation has no backup, but removes a stale one.
+        RemoveBackups(app, backup.empty() ? 0 : BackupIndex(app, backup), journal);
+    }
+}
+
 int Service::PrepareUserEnv() {
     const ustring app = m_user_app_path;
+    UpgradeJournal journal(app);
     ustring backup;
-    int index = 0;
-
-    if (IsFileExist(app, false)) {
-        index = BackupApp(app, backup);
-        if (index < 0) {
-            RestoreClient(app);
-            return -1;
-        }
+    const int index = MoveAside(app, journal, backup);
+    if (index < 0) {
+        return -1;
     }
     if (ExtractPackage() != 0) {
-        Rollback(app, backup);
-        RestoreClient(app);
+        Rollback(app, backup, journal);
         return -1;
     }
     // A power failure must not find the backups removed and the new files still in memory.
@@ -162,8 +227,8 @@ int Service::PrepareUserEnv() {
         MSG_WARNING("failed to write '%s' to disk: %s (%d)\n", app.c_str(), strerror(error), error);
     }
     MSG_INFO("user installation is ready, removing backup app\n");
-    for (int used = 0; used <= index; ++used) {
-        FSRemove(GetAppBackupDir(app, used), false);
+    if (journal.Commit()) {
+        RemoveBackups(app, index, journal);
     }
     return 0;
 }

@@ -32,6 +32,9 @@ public:
     /// the old bundle. 0 when the bundle now holds the package, otherwise -1.
     virtual int PrepareUserEnv();
 
+    /// Undoes an upgrade that an earlier start could not finish, or finishes one whose bundle is
+    /// whole. To be called before the versions are read.
+    void RecoverUserEnv();
     /// Removes the application folder of an older layout; a failure is ignored.
     void RemoveAgedFolders();
     /// Copies a file or a folder tree. 0 for success, -1 for failure (copied entries stay).

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <signal.h>
+#include <sys/stat.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,15 +38,22 @@ void SetPluginPath(const char *executable) {
     QCoreApplication::setLibraryPaths({path});
     printf("lib path = '%s'\n", path.toUtf8().constData());
     fflush(stdout);
-    if (!QDir(path).exists()) {  // The toolkit ends the process when it finds no platform plug-in.
-        MSG_ERROR("plug-in folder '%s' does not exist\n", path.toUtf8().constData());
-    }
+}
+
+/// Makes a folder and its parents, in which no other user can write, whatever the umask: whoever
+/// can write into the per-user folder decides what the user starts.
+bool MakeFolder(const QString &path) {
+    const mode_t mask = umask(0);
+    umask(mask | S_IWGRP | S_IWOTH);
+    const bool made = QDir().mkpath(path);
+    umask(mask);
+    return made;
 }
 
 void OpenLog() {
     const ustring levelFile = Service::GetRootLumarisInstallPath() + "/log/launcher.debug";
     const ustring logFolder = Service::GetUserLumarisInstallPath() + "/log";
-    if (!QDir().mkpath(ToQString(logFolder))) {
+    if (!MakeFolder(ToQString(logFolder))) {
         return;  // Errors and warnings go to standard error then.
     }
     Logger::Initialize(Logger::TYPE_FILE, logFolder + "/launcher.log", levelFile,

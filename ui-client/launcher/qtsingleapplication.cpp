@@ -24,12 +24,13 @@ QByteArray LockName(const QString &executable) {
 
 /// Opens the lock file, which is created when it is missing. Returns its descriptor, or -1 when
 /// there is none to be had. Everybody may write into the temporary folder: what lies there under
-/// this name may be a link or a pipe, and a file of another user could be locked by that user.
+/// this name may be a link or a pipe, and a file of another user, or one that another user gave a
+/// second name, could be locked by that user.
 int OpenLock(const QByteArray &name) {
     const int flags = O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     const int file = open(name.constData(), flags, S_IRUSR | S_IWUSR);
     struct stat info;
-    if (file >= 0 && (fstat(file, &info) != 0 || info.st_uid != getuid())) {
+    if (file >= 0 && (fstat(file, &info) != 0 || info.st_uid != getuid() || info.st_nlink > 1)) {
         close(file);
         return -1;
     }

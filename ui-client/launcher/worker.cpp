@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "worker.h"
 
+#include "folder-lock.h"
 #include "log-macros.h"
 #include "lumaris-service.h"
 #include "service-factory.h"
@@ -23,8 +24,13 @@ Worker::~Worker() {
     delete service;
 }
 
-void Worker::StartThread() {
+bool Worker::StartThread() {
     thread->start(QThread::InheritPriority);
+    if (!thread->isRunning()) {
+        MSG_ERROR("failed to start the worker thread\n");
+        return false;
+    }
+    return true;
 }
 
 void Worker::QuitThread() {
@@ -37,6 +43,14 @@ void Worker::JoinThread() {
 
 void Worker::HandleServicce() {
     MSG_DEBUG("running\n");
+    Serve();
+    MSG_DEBUG("done\n");
+    Q_EMIT sigServiceDone();
+}
+
+void Worker::Serve() {
+    const FolderLock lock(Service::GetUserLumarisInstallPath());
+    service->RecoverUserEnv();
     service->PreUpgrade();
     if (service->IsNeedUpgrade()) {
         Upgrade();
@@ -45,8 +59,6 @@ void Worker::HandleServicce() {
     }
     service->RemoveAgedFolders();
     service->PostUpgrade();
-    MSG_DEBUG("done\n");
-    Q_EMIT sigServiceDone();
 }
 
 void Worker::Upgrade() {

@@ -25,7 +25,8 @@ public:
     Worker();
     ~Worker() override;
 
-    void StartThread();
+    /// False when the system has no thread to give; the failure is logged.
+    bool StartThread();
     /// Asks the thread's event loop to end; does not wait.
     void QuitThread();
     /// Waits for the thread to end, without a time limit.
@@ -44,6 +45,8 @@ private Q_SLOTS:
 private:
     friend class Launcher;  // connects its start signal to the slot
 
+    /// Everything between the first and the last line of the run, with the per-user folder locked.
+    void Serve();
     void Upgrade();
 
     HandlerThread *thread;  // owned

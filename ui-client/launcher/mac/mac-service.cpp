@@ -133,9 +133,9 @@ int MacService::LaunchPerUserBin() {
 }
 
 void MacService::LoadSourceVerInfo() {
-    LoadSourceVersion();
+    Service::LoadSourceVersion();
 }
 
 void MacService::LoadTargetVerInfo() {
-    LoadTargetVersion();
+    Service::LoadTargetVersion();
 }

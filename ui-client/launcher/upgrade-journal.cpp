@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "upgrade-journal.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "file-op.h"
+#include "log-macros.h"
+
+#define LOG_MODULE "lumaris-service"
+static const ustring LOG_COMPONENT("service_debug");
+
+namespace {
+
+const char kFirstInstallation[] = "first-installation";
+
+/// Only a clear answer counts: a look that fails may hide the only client of the user.
+bool IsMissing(const ustring &path) {
+    FILE_INFO info;
+    return GetFileInfo(path, info) == 0 && !info.exists;
+}
+
+/// A missing link is a success.
+bool Remove(const ustring &link) {
+    if (unlink(link.c_str()) == 0 || errno == ENOENT) {
+        return true;
+    }
+    const int error = errno;
+    MSG_WARNING("failed to remove '%s': %s (%d)\n", link.c_str(), strerror(error), error);
+    return false;
+}
+
+}  // namespace
+
+UpgradeJournal::UpgradeJournal(const ustring &app)
+    : m_app(app), m_begun(app + "_upgrade"), m_committed(app + "_upgraded") {}
+
+void UpgradeJournal::Begin(const ustring &backup) {
+    if (!IsMissing(backup.empty() ? m_app : backup)) {
+        return;
+    }
+    const ustring target = backup.empty() ? ustring(kFirstInstallation) : FSBaseName(backup);
+    if (symlink(target.c_str(), m_begun.c_str()) != 0) {
+        const int error = errno;
+        MSG_WARNING("upgrading without a record, '%s': %s (%d)\n", m_begun.c_str(), strerror(error),
+                    error);
+    }
+}
+
+bool UpgradeJournal::Commit() {
+    // Where the name of the second record is taken, the first one goes: its backup may stay behind,
+    // but is not mistaken for the bundle.
+    if (rename(m_begun.c_str(), m_committed.c_str()) == 0 || unlink(m_begun.c_str()) == 0 ||
+        errno == ENOENT) {
+        return true;
+    }
+    const int error = errno;
+    MSG_WARNING("failed to commit the upgrade, '%s': %s (%d)\n", m_begun.c_str(), strerror(error),
+                error);
+    return false;
+}
+
+bool UpgradeJournal::End() {
+    return Remove(m_begun) && Remove(m_committed);
+}
+
+bool UpgradeJournal::IsBegun(ustring &backup) const {
+    return Read(m_begun, backup);
+}
+
+bool UpgradeJournal::IsCommitted(ustring &backup) const {
+    return Read(m_committed, backup);
+}
+
+bool UpgradeJournal::Read(const ustring &link, ustring &backup) const {
+    FILE_INFO info;
+    ustring target;
+    if (FSStat(link, info, false) != 0 || info.type != FILE_TYPE_SYMLINK ||
+        FSReadSymbolicLink(link, target) != 0) {
+        return false;
+    }
+    backup = target == kFirstInstallation ? ustring() : FSParentPath(m_app) + "/" + target;
+    return true;
+}
