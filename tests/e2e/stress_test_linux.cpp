@@ -108,25 +108,4 @@ TEST_F(LaunchTest, UpgradesInARow) {
     }
 }
 
-TEST_F(LaunchTest, SpeaksTheLanguageOfTheUser) {
-    setenv("LC_ALL", "de_DE.UTF-8", 1);
-    const pid_t launcher = StartToWait();
-    const std::string process = "/proc/" + std::to_string(launcher);
-    // The text as the dialog holds it; in the catalogue the bytes of each character are swapped.
-    const std::u16string text = u"Backup wird initialisiert";
-    std::string line;
-    for (std::ifstream maps(process + "/maps"); line.find("[heap]") == std::string::npos;) {
-        ASSERT_TRUE(std::getline(maps, line));
-    }
-    unsigned long begin = 0, end = 0;
-    ASSERT_EQ(2, sscanf(line.c_str(), "%lx-%lx", &begin, &end));
-    std::u16string heap((end - begin) / 2, u'\0');
-    std::ifstream memory(process + "/mem", std::ios::binary);
-    memory.seekg(static_cast<std::streamoff>(begin));
-    memory.read(reinterpret_cast<char *>(heap.data()), static_cast<std::streamsize>(end - begin));
-    EXPECT_NE(std::u16string::npos, heap.find(text));
-    LetGo();
-    EXPECT_EQ(0, Finish(launcher));
-}
-
 }  // namespace

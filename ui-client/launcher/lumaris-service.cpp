@@ -82,8 +82,12 @@ void RemoveBackups(const ustring &app, int last, UpgradeJournal &journal) {
     }
 }
 
-/// The index of a backup name, -1 for any other path.
-int BackupIndex(const ustring &app, const ustring &backup) {
+/// The index of the last backup name that an upgrade with this backup removes: 0 for a first
+/// installation, which has none, but removes a stale one. -1 for a path that is no backup name.
+int LastBackup(const ustring &app, const ustring &backup) {
+    if (backup.empty()) {
+        return 0;
+    }
     for (int index = 0; index < kBackupNames; ++index) {
         if (GetAppBackupDir(app, index) == backup) {
             return index;
@@ -97,7 +101,7 @@ int BackupIndex(const ustring &app, const ustring &backup) {
 int MoveAside(const ustring &app, UpgradeJournal &journal, ustring &backup) {
     if (journal.IsBegun(backup)) {
         // The recovery could not put the old bundle back: its backup is that of this upgrade, too.
-        return IsFileExist(app, false) ? -1 : BackupIndex(app, backup);
+        return IsFileExist(app, false) ? -1 : LastBackup(app, backup);
     }
     if (IsFileExist(app, false)) {
         return BackupApp(app, journal, backup);
@@ -155,7 +159,7 @@ void GoBack(const ustring &app, const ustring &backup, UpgradeJournal &journal) 
     if (backup.empty()) {
         Discard(app);
         journal.End();
-    } else if (BackupIndex(app, backup) < 0) {
+    } else if (LastBackup(app, backup) < 0) {
         journal.End();  // it names nothing of ours
     } else if (GetFileInfo(backup, info) == 0) {
         if (info.exists) {
@@ -204,8 +208,7 @@ void Service::RecoverUserEnv() {
         MSG_WARNING("the last upgrade of '%s' was not finished, going back\n", app.c_str());
         GoBack(app, backup, journal);
     } else if (journal.IsCommitted(backup)) {
-        // A first installation has no backup, but removes a stale one.
-        RemoveBackups(app, backup.empty() ? 0 : BackupIndex(app, backup), journal);
+        RemoveBackups(app, LastBackup(app, backup), journal);
     }
 }
 
