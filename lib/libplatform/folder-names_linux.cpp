@@ -13,8 +13,7 @@ struct CloseDir {
     void operator()(DIR *dir) const { closedir(dir); }
 };
 
-/// Both names are composed. ustring and ICU hold the same UTF-16 units, under two names of the
-/// type.
+/// Both names are composed. ustring and ICU hold the same UTF-16 units under different type names.
 bool EqualButForCase(const ustring &a, const ustring &b) {
     return u_strcasecmp(reinterpret_cast<const UChar *>(a.c_str_utf16()),
                         reinterpret_cast<const UChar *>(b.c_str_utf16()), U_FOLD_CASE_DEFAULT) == 0;
@@ -24,20 +23,11 @@ bool SameName(const ustring &listed, const ustring &composed, bool fold_case) {
     if (!ustring::is_valid(listed)) {
         return false;
     }
-    // Large folders are mostly ASCII, which needs no composing.
-    const ustring form = IsAscii(listed) ? listed : listed.normalize(ustring::NFC);
+    const ustring form = listed.normalize(ustring::NFC);
     return form == composed || (fold_case && EqualButForCase(form, composed));
 }
 
 }  // namespace
-
-bool IsAscii(const ustring &name) {
-    const char *text = name.c_str();
-    while (*text != '\0' && static_cast<unsigned char>(*text) < 0x80) {
-        ++text;
-    }
-    return *text == '\0';
-}
 
 ustring StoredName(const ustring &folder, const ustring &name, bool fold_case) {
     const std::unique_ptr<DIR, CloseDir> dir(opendir(folder.empty() ? "." : folder.c_str()));

@@ -3,10 +3,7 @@
 
 #include "ustring.h"
 
-/// Whether a name has nothing but ASCII in it; it is then its own composed form.
-bool IsAscii(const ustring &name);
-
-/// The name under which `folder` (empty, or with a final '/') lists the entry `name`: the same
-/// bytes if there are any, else a canonically equivalent name, with `fold_case` in any letter case.
-/// `name` itself when the folder lists none or cannot be read.
+/// The name under which `folder` (empty, or with a final '/') lists the entry `name`: preferably
+/// the same bytes, otherwise a canonically equivalent name, with `fold_case` in any letter case.
+/// Returns `name` itself when the folder lists no such entry or cannot be read.
 ustring StoredName(const ustring &folder, const ustring &name, bool fold_case);

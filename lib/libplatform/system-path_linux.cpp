@@ -8,10 +8,10 @@
 
 namespace {
 
-/// Most names have one spelling only, which saves every system call here. Within ASCII, ';', '`'
-/// and 'K' alone have an equivalent outside it (U+037E, U+1FEF and U+212A).
+/// Most names have only one spelling and need no system call here. The only ASCII characters with a
+/// canonical equivalent outside ASCII are ';', '`' and 'K' (U+037E, U+1FEF and U+212A).
 bool HasOtherSpelling(const ustring &text) {
-    return !IsAscii(text) || std::strpbrk(text.c_str(), ";`K") != nullptr;
+    return !ustring::is_ascii(text) || std::strpbrk(text.c_str(), ";`K") != nullptr;
 }
 
 bool Exists(const ustring &path) {

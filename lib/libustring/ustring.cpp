@@ -18,11 +18,11 @@
 
 namespace {
 
-/// Units of the buffers on the stack that conversions try first; nearly all paths fit.
+/// Size of the stack buffers that conversions try first; nearly every path fits.
 constexpr int32_t kShortText = 1024;
 
-// ICU's UChar is char16_t here. It has the size and representation of unsigned short, and only
-// the separately compiled ICU reads or writes through these pointers.
+// ICU's UChar is char16_t, which has the size and representation of unsigned short. Only ICU, which
+// is compiled separately, reads or writes through these pointers.
 UChar *to_icu(unsigned short *units) {
     return reinterpret_cast<UChar *>(units);
 }
@@ -36,7 +36,8 @@ void warn(const char *call, UErrorCode status, int line) {
               << line << std::endl;
 }
 
-/// Exact fit; a buffer is kept while it is large enough and at most twice too large.
+/// Reallocates to exactly `n` elements, unless the buffer is large enough and at most twice too
+/// large.
 template <typename T>
 void fit(T *&buffer, unsigned long &cap, unsigned long n) {
     if (cap >= n && cap / 2 <= n) {
@@ -50,7 +51,8 @@ void fit(T *&buffer, unsigned long &cap, unsigned long n) {
     cap = n;
 }
 
-/// Capacity for `n` more characters behind `len`; no buffer holds what would overflow the sum.
+/// The capacity for `n` more elements after `len`, with the terminator. Throws instead of
+/// overflowing.
 unsigned long grown(unsigned long len, unsigned long n) {
     if (n >= LONG_MAX / sizeof(unsigned short) - len) {
         throw std::bad_alloc();
@@ -74,11 +76,7 @@ unsigned long unit_count(const unsigned short *s, unsigned long n) {
 /// Whether all of `n` code units are ASCII and none of them is NUL.
 template <typename Unit>
 bool is_plain(const Unit *s, unsigned long n) {
-    int found = 0;  // bits of all units: without a branch the loop takes many at a time
-    for (unsigned long i = 0; i < n; ++i) {
-        found |= s[i] | (s[i] - 1);  // a NUL becomes negative
-    }
-    return found >= 0 && found < 0x80;
+    return std::all_of(s, s + n, [](int unit) { return unit > 0 && unit < 0x80; });
 }
 
 using fold_table = std::array<unsigned char, 256>;
@@ -91,7 +89,7 @@ constexpr fold_table make_fold_table() {
     return table;
 }
 
-/// Folds ASCII letters only: the bytes of longer UTF-8 sequences mean nothing by themselves.
+/// Folds ASCII letters only: a single byte of a longer UTF-8 sequence means nothing.
 constexpr fold_table case_fold = make_fold_table();
 
 int str_case_cmp(const char *a, const char *b) {
@@ -125,7 +123,7 @@ void ustring::init() {
     try {
         realloc_wdata(4);
     } catch (...) {
-        std::free(m_data);  // no destructor runs for an object that was never complete
+        std::free(m_data);  // the destructor does not run when a constructor throws
         throw;
     }
     clear();
@@ -164,7 +162,7 @@ int ustring::convert_from_wdata() {
     if (!is_plain(m_wdata, m_wdata_len)) {
         return icu_from_wdata();
     }
-    // Should the allocation throw, the UTF-16 form counts as unbuilt and the old text stands.
+    // If the allocation throws, the old text stays and the UTF-16 form counts as not built.
     const unsigned long len = std::exchange(m_wdata_len, 0);
     realloc_data(len + 1);
     std::transform(m_wdata, m_wdata + len, m_data,
@@ -174,8 +172,8 @@ int ustring::convert_from_wdata() {
     return 0;
 }
 
-// ICU writes into a buffer on the stack. A text that does not fit in there is measured by that call
-// and converted once more, into the string's own buffer.
+// ICU converts into a buffer on the stack. If the text does not fit, that call returns its length,
+// and a second call converts it into the string's own buffer.
 
 int ustring::icu_from_data() const {
     UChar units[kShortText];
@@ -203,7 +201,8 @@ int ustring::icu_from_data() const {
 }
 
 int ustring::icu_from_wdata() {
-    const unsigned long wdata_len = std::exchange(m_wdata_len, 0);  // as above
+    // If an allocation throws, the UTF-16 form counts as not built.
+    const unsigned long wdata_len = std::exchange(m_wdata_len, 0);
     char text[kShortText];
     int32_t len = 0;
     UErrorCode status = U_ZERO_ERROR;
@@ -229,8 +228,8 @@ int ustring::icu_from_wdata() {
     return 0;
 }
 
-// Assigning. A source inside the string's own buffer can only shorten the text, so it is moved in
-// place; clearing first would destroy it.
+// A source inside the string's own buffer can only shorten the text, so it is moved in place:
+// clearing the string first would destroy it.
 
 ustring &ustring::assign(const ustring &s, unsigned long pos, unsigned long n) {
     if (&s == this) {
@@ -245,7 +244,9 @@ ustring &ustring::assign(const char *s, unsigned long n) {
         clear();
         return append(s, n);
     }
-    n = strnlen(s, n);
+    if (s != m_data) {  // the whole text keeps its NUL bytes, a part of it ends at the first
+        n = strnlen(s, n);
+    }
     if (n < m_data_len) {
         keep(static_cast<unsigned long>(s - m_data), n);
     }
@@ -279,7 +280,7 @@ ustring &ustring::assign(unsigned short u, unsigned long n) {
     return append(u, n);
 }
 
-// Appending. A source inside the string's own buffer moves along when that buffer moves.
+// A source inside the string's own buffer moves with it when the buffer is reallocated.
 
 ustring &ustring::append(const ustring &s, unsigned long pos, unsigned long n) {
     if (pos > s.m_data_len) {
@@ -331,7 +332,7 @@ ustring &ustring::append(unsigned short u, unsigned long n) {
     return *this;
 }
 
-/// Makes room for `n` units behind the UTF-16 form, which is built first.
+/// Builds the UTF-16 form and makes room for `n` more units.
 void ustring::begin_wdata_edit(unsigned long n) {
     if (m_wdata_len == 0 && m_data_len != 0) {
         convert_from_data();
@@ -339,7 +340,7 @@ void ustring::begin_wdata_edit(unsigned long n) {
     realloc_wdata(grown(m_wdata_len, n));
 }
 
-/// Takes in the `n` units written behind the UTF-16 form and makes the UTF-8 text follow.
+/// Counts the `n` units that were added to the UTF-16 form and rebuilds the UTF-8 text from it.
 void ustring::end_wdata_edit(unsigned long n) {
     m_wdata_len += n;
     m_wdata[m_wdata_len] = 0;
@@ -399,7 +400,7 @@ void ustring::ltrim(const bytes &set) {
 }
 
 void ustring::rtrim(const bytes &set) {
-    keep(0, find_last_not_of(set, npos) + 1);  // npos wraps around to 0: nothing is kept
+    keep(0, find_last_not_of(set, npos) + 1);  // npos + 1 is 0: nothing is kept
 }
 
 void ustring::trim(const bytes &set) {
@@ -422,14 +423,10 @@ int ustring::compare(const ustring &a, const ustring &b, bool ignore_case) {
 
 ustring ustring::normalize(const ustring &src, normalization_form form) {
     static constexpr UNormalization2Mode modes[] = {UNORM2_COMPOSE, UNORM2_DECOMPOSE};
+    if (is_ascii(src)) {  // an empty text, too
+        return src;
+    }
     ustring result;
-    if (src.empty()) {
-        return result;
-    }
-    if (is_plain(src.m_data, src.m_data_len)) {  // ASCII is the same in both forms
-        result.append(src, 0, npos);  // returned as a reference, it would be copied once more
-        return result;
-    }
     UErrorCode status = U_ZERO_ERROR;
     int line = __LINE__ + 1;
     const UNormalizer2 *instance = unorm2_getInstance(nullptr, "nfc", modes[form], &status);
@@ -469,6 +466,10 @@ bool ustring::is_valid(const ustring &s) {
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8(nullptr, 0, &len, s.m_data, -1, &status);
     return status != U_INVALID_CHAR_FOUND;
+}
+
+bool ustring::is_ascii(const ustring &s) {
+    return is_plain(s.m_data, s.m_data_len);
 }
 
 std::ostream &operator<<(std::ostream &out, const ustring &s) {

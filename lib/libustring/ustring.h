@@ -20,19 +20,25 @@
 /// Null pointers are not accepted anywhere.
 class ustring {
 public:
-    /// Nothing found (as a result), up to the end (as a count), from the last byte (as the start
-    /// of a backward search).
+    /// As a result: nothing found. As a count: up to the end. As the start of a backward search:
+    /// from the last byte.
     static constexpr unsigned long npos = ~0UL;
 
     /// Canonical forms of Unicode Standard Annex #15.
     enum normalization_form { NFC = 0, NFD = 1 };
 
-    /// What a search looks for or a trim takes away: bytes that stay with the caller.
+    /// What a search looks for or a trim removes. Texts stay with the caller; a single byte is kept
+    /// here, so this type is not copied.
     struct bytes : std::string_view {
         bytes(const ustring &s) : std::string_view(s.m_data, s.m_data_len) {}
         bytes(const std::string &s) : std::string_view(s) {}
         bytes(const char *s) : std::string_view(s) {}
-        bytes(const char &c) : std::string_view(&c, c == '\0' ? 0 : 1) {}  // a NUL is no byte
+        bytes(char c) : std::string_view(&m_byte, c == '\0' ? 0 : 1), m_byte(c) {}
+        bytes(const bytes &) = delete;
+        bytes &operator=(const bytes &) = delete;
+
+    private:
+        const char m_byte = '\0';  // NUL stands for no byte at all
     };
 
     ustring();
@@ -43,9 +49,9 @@ public:
     ustring(char c) : ustring() { append(c, 1); }
     ~ustring();
 
-    // Sources may lie in the string's own buffers. Counted forms take at most `n` bytes or units
-    // and stop at a NUL; so do the std::string forms. Positions beyond the source throw
-    // std::out_of_range. UTF-16 that is not well-formed empties the string.
+    // A source may lie in the string's own buffers. Counted forms take at most `n` bytes or units
+    // and stop at a NUL, as do the std::string forms. A position beyond the source throws
+    // std::out_of_range. Malformed UTF-16 empties the string.
     ustring &assign(const ustring &s, unsigned long pos, unsigned long n);
     ustring &assign(const char *s) { return assign(s, npos); }
     ustring &assign(const char *s, unsigned long n);
@@ -103,8 +109,8 @@ public:
     void rtrim(const bytes &set);
     void trim(const bytes &set);
 
-    // The searches are those of std::string_view, but nothing, not even an empty text, is found at
-    // or behind the end. Inline, because a path is so short that a call would cost as much.
+    // The searches of std::string_view, except that nothing, not even an empty text, is found at
+    // the end or beyond. Inline: on short paths a call would cost as much as the search.
     unsigned long find(const bytes &s, unsigned long pos) const {
         return pos >= m_data_len ? npos : bytes(*this).find(s, pos);
     }
@@ -134,6 +140,8 @@ public:
     /// Empty when `src` is empty or not valid UTF-8 (a warning goes to standard error then).
     static ustring normalize(const ustring &src, normalization_form form);
     static bool is_valid(const ustring &s);
+    /// Whether the text is ASCII without NUL bytes; it is then its own normalized form.
+    static bool is_ascii(const ustring &s);
 
 private:
     friend struct ustring_test_access;
@@ -183,7 +191,7 @@ inline ustring operator+(const ustring &a, unsigned short b) {
     return ustring(a) += b;
 }
 
-// The order of `compare`, of which only the sign matters here.
+// The same order as `compare`.
 
 inline bool operator==(const ustring &a, const ustring &b) {
     return std::strcmp(a.c_str(), b.c_str()) == 0;

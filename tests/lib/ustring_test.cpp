@@ -152,7 +152,10 @@ TEST(UstringTest, BuffersFitTheText) {
     s = "abc";
     EXPECT_EQ(4, ustring_test_access::bytes(s));
     EXPECT_THROW(s.append('x', ustring::npos), std::bad_alloc);
-    EXPECT_THROW(s.substr(4, 0), std::out_of_range);
+    s.append('\0', 1).append('d', 1);
+    EXPECT_EQ(5, s.assign(s.c_str()).length());  // nothing changes
+    EXPECT_EQ(4, s.assign(s.c_str(), 4).length());
+    EXPECT_THROW(s.substr(5, 0), std::out_of_range);
     const std::pair<unsigned short, unsigned long> texts[] = {{'x', 9}, {0xE9, 9}, {0xE9, 2000}};
     for (const auto &[unit, n] : texts) {
         ustring wide;
