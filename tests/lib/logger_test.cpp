@@ -128,7 +128,10 @@ TEST_F(LoggerTest, MessagesOfEightThreadsStayWhole) {
 
 }  // namespace
 
-/// Instead of the system's.
+// These replace the C library's functions; hardened builds call the second one.
 extern "C" void vsyslog(int priority, const char *, va_list) {
     syslog_messages += priority == LOG_ERR;
+}
+extern "C" void __vsyslog_chk(int priority, int, const char *format, va_list args) {
+    vsyslog(priority, format, args);
 }
