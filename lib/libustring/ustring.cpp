@@ -422,10 +422,11 @@ int ustring::compare(const ustring &a, const ustring &b, bool ignore_case) {
 }
 
 ustring ustring::normalize(const ustring &src, normalization_form form) {
+    return is_ascii(src) ? src : icu_normalize(src, form);
+}
+
+ustring ustring::icu_normalize(const ustring &src, normalization_form form) {
     static constexpr UNormalization2Mode modes[] = {UNORM2_COMPOSE, UNORM2_DECOMPOSE};
-    if (is_ascii(src)) {  // an empty text, too
-        return src;
-    }
     ustring result;
     UErrorCode status = U_ZERO_ERROR;
     int line = __LINE__ + 1;

@@ -155,6 +155,7 @@ private:
     int convert_from_wdata();
     int icu_from_data() const;
     int icu_from_wdata();
+    static ustring icu_normalize(const ustring &src, normalization_form form);
     void begin_wdata_edit(unsigned long n);
     void end_wdata_edit(unsigned long n);
     void keep(unsigned long pos, unsigned long n);
