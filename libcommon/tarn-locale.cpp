@@ -7,7 +7,7 @@
 #include <QMap>
 #include <iterator>
 
-// Traces an expression with its place, on Qt's debug channel since no log is needed for it.
+// Writes an expression with its file and line to Qt's debug channel, not to the log.
 #define TRACE_VALUE(format, value) \
     QMessageLogger().debug("%s:%d %s=" format, __FILE__, __LINE__, #value, value)
 
@@ -23,7 +23,7 @@ constexpr int kLanguageCount = int(std::size(grgszLanguages)) - 1;
 
 const QString qstrLanguageFallSafe = QStringLiteral("enu");
 
-/// Codes by ISO 639-1 language; the country decides only in `languageForLocale`.
+/// The code for an ISO 639-1 language; `languageForLocale` handles the countries that matter.
 QString codeForLanguage(const QString &language) {
     const QMap<QString, QString> table = {
         {QStringLiteral("en"), QStringLiteral("enu")},

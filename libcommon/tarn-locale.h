@@ -4,17 +4,17 @@
 #include <QString>
 #include <QStringList>
 
-/// Which of the twenty languages the user interface speaks. Any thread; nothing fails.
+/// Chooses among the twenty languages of the user interface. Any thread; nothing fails.
 namespace TarnLocale {
 
-/// Code of the language that fits the system locale and is embedded; "enu" when none does.
+/// The code of the embedded language that fits the system locale; "enu" when there is none.
 QString getDefaultLanguage();
 
-/// Code of the language for a locale name in lower case, such as "zh_tw" or "pt", whether or not it
-/// is embedded. Which names a system gives differs.
+/// The code for a locale name in lower case, such as "zh_tw" or "pt", embedded or not. Systems
+/// differ in the names that they report.
 QString languageForLocale(const QString &locale);
 
-/// True when a translation for `code` is embedded in the program.
+/// Whether a translation for `code` is embedded in the program.
 bool isLanguageInstalled(const QString &code);
 
 /// The twenty codes in the order of their IDs.

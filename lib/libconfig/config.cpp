@@ -21,7 +21,7 @@ bool is_key_char(char c) {
            c == '-' || c == '.';
 }
 
-/// The NUL at the end of the line counts as one; bytes from 128 up do not.
+/// The NUL that ends the line is one; bytes from 128 up are not.
 bool is_control(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
 }
@@ -50,12 +50,12 @@ int Config::read(const ustring &path) {
         return -1;
     }
 
-    ustring key, value;  // outside the loop, to keep their buffers
+    ustring key, value;  // outside the loop to reuse their buffers
     char line[8192];     // a longer line counts as several lines
     while (std::fgets(line, sizeof(line), file.get()) != nullptr) {
         const int result = parse(line, static_cast<int>(std::strlen(line)), key, value);
         if (result == 0) {
-            insert_or_assign(end(), key, value);  // right there when the file is sorted
+            (*this)[key] = value;
         } else if (result == 2) {
             clear();
             return -1;

@@ -18,7 +18,7 @@ struct FreeMemory {
     void operator()(char *memory) const { std::free(memory); }
 };
 
-/// An open file, closed at the end of the scope; one that was written is flushed to disk before.
+/// An open file. The destructor closes it and flushes a written file to disk first.
 class File {
 public:
     File(const file_op::Place &place, int flags)
@@ -49,7 +49,7 @@ private:
 
 int WriteBlock(int fd, const char *data, unsigned long size) {
     while (size > 0) {
-        errno = 0;  // a write of nothing sets none
+        errno = 0;  // write() may write nothing without setting it
         const ssize_t written = write(fd, data, size);
         if (written < 1) {
             const int error = errno;

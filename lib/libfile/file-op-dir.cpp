@@ -46,8 +46,8 @@ int FSOpenDir(const ustring &path, int flags, DIR_HANDLE &handle) {
 }
 
 int FSReadDir(DIR_HANDLE &handle, DIR_ENTRY &entry) {
-    // A stream belongs to one walk, so readdir() does: readdir_r() is deprecated by the C library
-    // because it cannot report names longer than its buffer.
+    // Every walk has a stream of its own, so readdir() is safe. The C library deprecates
+    // readdir_r(), which cannot report names longer than its buffer.
     errno = 0;
     const dirent *const found = readdir(handle.dir);
     if (found == nullptr) {

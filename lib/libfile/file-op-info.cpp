@@ -18,7 +18,8 @@ void FillNames(const ustring &path, FILE_INFO &info) {
     info.name = FSBaseName(path);
 }
 
-// Widths and signs of stat's members differ between systems; the record's hold them all.
+// The members of stat differ in width and sign between systems; those of the record are as wide as
+// any.
 void FillFromStat(const struct stat &st, FILE_INFO &info) {
     info.exists = true;
     info.mtime = static_cast<long>(st.st_mtime);
@@ -30,7 +31,7 @@ void FillFromStat(const struct stat &st, FILE_INFO &info) {
     info.type = file_op::TypeOfMode(st.st_mode);
 }
 
-/// Writes what a look-up of the real path writes. Both paths are composed.
+/// Logs the lookup of a real path. Both paths are composed (NFC).
 int ReportRealPath(const ustring &asked, int status, const ustring &real) {
     MSG_DEBUG("Input file path = [%s].\n", asked.c_str());
     if (status != 0) {
@@ -76,11 +77,10 @@ int file_op::TypeOfMode(mode_t mode) {
     }
 }
 
-int file_op::Describe(Place &place, FILE_INFO &info, ustring &stored) {
+int file_op::RespellAndDescribe(Place &place, FILE_INFO &info, ustring &stored) {
     struct stat st;
     const int error = StatEntry(place.system, st);
-    // A missing entry is an answer. A parent that is no folder (ENOTDIR) is a failure like any
-    // other.
+    // A missing entry is a valid result. All other errors are failures, ENOTDIR included.
     if (error == ENOENT) {
         info = FILE_INFO();
         FillNames(place.asked, info);
@@ -94,10 +94,11 @@ int file_op::Describe(Place &place, FILE_INFO &info, ustring &stored) {
     if (info.type == FILE_TYPE_NONE) {
         return -1;
     }
-    // A path that is not valid UTF-8 has no composed form, and nothing is found under the empty
-    // one.
     const ustring composed = place.asked.normalize(ustring::NFC);
-    const int status = RealPath(composed.empty() ? composed : place.system, Leaf::kItself, stored);
+    int status = kRealPathMissing;  // a path that is not valid UTF-8 has no composed form
+    if (!composed.empty()) {
+        status = RealPath(place.system, Leaf::kItself, stored);
+    }
     const ustring real = stored.normalize(ustring::NFC);
     if (ReportRealPath(composed, status, real) != 0) {
         return -1;
@@ -106,9 +107,9 @@ int file_op::Describe(Place &place, FILE_INFO &info, ustring &stored) {
     return 0;
 }
 
-int file_op::Describe(Place &place, FILE_INFO &info) {
+int file_op::RespellAndDescribe(Place &place, FILE_INFO &info) {
     ustring stored;
-    return Describe(place, info, stored);
+    return RespellAndDescribe(place, info, stored);
 }
 
 int file_op::DescribeListed(const Folder &folder, const ustring &name) {
@@ -121,7 +122,7 @@ int file_op::DescribeListed(const Folder &folder, const ustring &name) {
                           folder.real + "/" + composed);
 }
 
-int file_op::Stat(Place &place, FILE_INFO &info, bool exact) {
+int file_op::RespellAndStat(Place &place, FILE_INFO &info, bool exact) {
     if (place.asked.empty()) {
         return -1;
     }
@@ -129,24 +130,24 @@ int file_op::Stat(Place &place, FILE_INFO &info, bool exact) {
         info.exists = false;
         return 0;
     }
-    return Describe(place, info) == 0 ? 0 : -2;
+    return RespellAndDescribe(place, info) == 0 ? 0 : -2;
 }
 
 int GetFileInfo(const ustring &path, FILE_INFO &info) {
     file_op::Place place(path);
-    return file_op::Describe(place, info);
+    return file_op::RespellAndDescribe(place, info);
 }
 
 bool IsFileExist(const ustring &path, bool exact) {
     file_op::Place place(path.normalize(ustring::NFC));
     FILE_INFO info;
-    return !place.asked.empty() && file_op::Describe(place, info) == 0 && info.exists &&
+    return !place.asked.empty() && file_op::RespellAndDescribe(place, info) == 0 && info.exists &&
            (!exact || info.path == place.asked);
 }
 
 int FSStat(const ustring &path, FILE_INFO &info, bool exact) {
     file_op::Place place(path);
-    return file_op::Stat(place, info, exact);
+    return file_op::RespellAndStat(place, info, exact);
 }
 
 int FSGetRealPath(ustring &path) {
@@ -163,8 +164,12 @@ int FSGetRealPath(ustring &path) {
 int FSReadSymbolicLink(const ustring &link, ustring &target) {
     char text[kLinkBuffer] = {};
     const ssize_t length = readlink(SystemPath(link).c_str(), text, sizeof(text));
-    // A text that fills the buffer may have been cut.
-    const int error = length < 0 ? errno : length < ssize_t{sizeof(text)} ? 0 : ENAMETOOLONG;
+    int error = 0;
+    if (length < 0) {
+        error = errno;
+    } else if (length == ssize_t{sizeof(text)}) {
+        error = ENAMETOOLONG;  // the text may have been cut
+    }
     if (error != 0) {
         MSG_ERROR("FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n",
                   link.c_str(), error, std::strerror(error));

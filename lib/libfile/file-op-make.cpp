@@ -19,7 +19,7 @@ using file_op::Place;
 constexpr unsigned int kPathBuffer = 4096;
 constexpr unsigned short kNoMode = 0xFFFF;
 
-/// While it lives, what this process creates gets exactly the mode that is asked for.
+/// Sets the umask of the process to 0 during its lifetime, so that modes apply exactly.
 class NoUmask {
 public:
     NoUmask() : m_previous(umask(0)) {}
@@ -31,7 +31,7 @@ private:
     const mode_t m_previous;
 };
 
-/// Makes one level of a path. Returns 0 or an errno code.
+/// Creates one level of a path. Returns 0 or an errno code.
 int MakeLevel(const Place &level, bool last, bool replace_files, mode_t mode) {
     struct stat st;
     const bool exists = stat(level.system.c_str(), &st) == 0;
@@ -44,7 +44,7 @@ int MakeLevel(const Place &level, bool last, bool replace_files, mode_t mode) {
         return EEXIST;
     }
     if (exists && !replace_files) {
-        // It stays, and making the next level below it fails.
+        // It stays, and creating the next level beneath it fails.
         MSG_INFO("FSMKDirP: path: %s is symbolic link pointed to folder\n", level.asked.c_str());
         return 0;
     }
@@ -59,8 +59,8 @@ unsigned long LevelEnd(const ustring &path, unsigned long begin) {
     return begin + std::strcspn(path.c_str() + begin, "/");
 }
 
-/// Makes all levels of `path`. Both spellings have the same levels, so they are walked together;
-/// `end` is where the walk stopped in the one asked for. Returns 0 or an errno code.
+/// Creates all levels of `path`. Both spellings have the same levels and are walked together. `end`
+/// is set to where the walk stopped in `path.asked`. Returns 0 or an errno code.
 int MakeLevels(const Place &path, unsigned long &end, bool replace_files, unsigned short mode) {
     const std::unique_ptr<NoUmask> exact(mode == kNoMode ? nullptr : new NoUmask);
     const mode_t make_mode = mode == kNoMode ? mode_t{0777} : mode_t{mode};
@@ -68,7 +68,7 @@ int MakeLevels(const Place &path, unsigned long &end, bool replace_files, unsign
     for (unsigned long system_end = end;; ++end, ++system_end) {
         end = LevelEnd(path.asked, end);
         system_end = LevelEnd(path.system, system_end);
-        // A final '/' begins no level.
+        // A final '/' starts no new level.
         const bool last = end + 1 >= path.asked.length();
         const Place level(path.asked.substr(0, end), path.system.substr(0, system_end));
         const int error = MakeLevel(level, last, replace_files, make_mode);
@@ -82,7 +82,7 @@ int MakeLevels(const Place &path, unsigned long &end, bool replace_files, unsign
 
 int file_op::MakeFolder(Place &place, bool recursive) {
     FILE_INFO info;
-    if (Describe(place, info) != 0) {
+    if (RespellAndDescribe(place, info) != 0) {
         MSG_ERROR("FSMKDir: Failed to to file info '%s'\n", place.asked.c_str());
         return -1;
     }
@@ -91,8 +91,11 @@ int file_op::MakeFolder(Place &place, bool recursive) {
                   place.asked.c_str(), info.type);
         return -1;
     }
-    int error = info.exists || mkdir(place.system.c_str(), 0777) == 0 ? 0 : errno;
-    // Only a missing parent needs the walk, which makes a call for each level above the folder.
+    int error = 0;
+    if (!info.exists && mkdir(place.system.c_str(), 0777) != 0) {
+        error = errno;
+    }
+    // The walk makes a call for each level, so it only follows when a single mkdir() has failed.
     if (error != 0 && recursive) {
         unsigned long end = 0;
         error = MakeLevels(place, end, false, kNoMode);
@@ -116,7 +119,7 @@ int FSMKDirP(const ustring &path, char **stop, bool replace_files, unsigned shor
     unsigned long end = 0;
     const int error = MakeLevels(Place::Respelled(path), end, replace_files, mode);
     if (stop != nullptr) {
-        // The interface wants a pointer to the caller's own text that it could write through.
+        // By its type, the interface hands out a writable pointer into the caller's own text.
         *stop = const_cast<char *>(path.c_str()) + end;
     }
     if (error != 0) {

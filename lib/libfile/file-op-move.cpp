@@ -34,14 +34,14 @@ int MoveToOtherVolume(const Place &src, const Place &dst, int type, bool exact) 
             return MoveFolder(src, dst, exact);
         case FILE_TYPE_REGULAR:
             return file_op::CopyFile(src, dst, true) == 0 ? 0 : -3;
-        default:  // only folders and regular files travel
+        default:  // other kinds are not moved
             return 0;
     }
 }
 
 int MoveEntry(Place &src, const Place &dst, bool exact) {
     FILE_INFO info;
-    if (file_op::Stat(src, info, exact) != 0 || !info.exists) {
+    if (file_op::RespellAndStat(src, info, exact) != 0 || !info.exists) {
         return -2;
     }
     if (std::rename(src.system.c_str(), dst.system.c_str()) == 0) {

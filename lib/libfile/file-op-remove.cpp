@@ -11,12 +11,12 @@ using file_op::Place;
 
 int RemoveEntry(Place place);
 
-/// Removes anything but a folder.
+/// Removes an entry that is not a folder.
 int RemoveListed(const Folder &folder, const ustring &name, const Place &place) {
     if (file_op::DescribeListed(folder, name) != 0) {
         return -1;
     }
-    // Another process may have removed it since it was listed (ENOENT): that is a success, too.
+    // If another process has removed it since it was listed (ENOENT), that is a success, too.
     return std::remove(place.system.c_str()) == 0 || errno == ENOENT ? 0 : -3;
 }
 
@@ -27,7 +27,7 @@ int RemoveContents(const Place &place, const Folder &folder) {
     }
     for (const DIR_ENTRY &entry : entries) {
         const Place child = place.Child(entry.name);
-        // Some file systems do not tell the type in a listing.
+        // Some file systems list entries without their types.
         const bool described = entry.type == FILE_TYPE_NONE || entry.type == FILE_TYPE_DIRECTORY;
         if ((described ? RemoveEntry(child) : RemoveListed(folder, entry.name, child)) != 0) {
             return -3;
@@ -39,7 +39,7 @@ int RemoveContents(const Place &place, const Folder &folder) {
 int RemoveEntry(Place place) {
     FILE_INFO info;
     ustring stored;
-    if (file_op::Describe(place, info, stored) != 0) {
+    if (file_op::RespellAndDescribe(place, info, stored) != 0) {
         return -1;
     }
     if (!info.exists) {

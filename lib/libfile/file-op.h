@@ -5,11 +5,11 @@
 
 #include "ustring.h"
 
-// File operations. Every path is UTF-8; where names are bytes on disk, any canonically equivalent
-// spelling of a path finds the entry. All functions may be called from any thread, keep no state;
-// failures are logged under "file_op_debug" where a message helps. Unless a comment says otherwise,
-// int results are 0 for success and -1 for failure. Nothing is rolled back after a failure half
-// way.
+// File operations. Every path is UTF-8, and any canonically equivalent spelling of it finds the
+// entry, even on file systems that compare names byte by byte. The functions keep no state and may
+// be called from any thread. Most failures are logged, under "file_op_debug". Unless a comment says
+// otherwise, an int result is 0 for success and -1 for failure. A failure halfway is not rolled
+// back.
 
 /// File types; also used by DIR_ENTRY.
 enum {
@@ -34,7 +34,7 @@ struct _FILE_INFO_tag {
     unsigned int mode = 0;  // file type and permission bits
     long long dev = 0;
 
-    /// Compares what tells whether a file changed: not owner, group, mode and device.
+    /// Ignores owner, group, mode and device.
     bool operator==(const _FILE_INFO_tag &other) const;
     bool operator!=(const _FILE_INFO_tag &other) const { return !(*this == other); }
 };
@@ -43,7 +43,7 @@ using FILE_INFO = _FILE_INFO_tag;
 /// Option of FSOpenDir: fill `mtime` and `size` of every entry.
 enum { DIR_FLAG_STAT = 1 };
 
-/// An open directory; whoever opens it closes it with FSCloseDir.
+/// An open directory; the caller of FSOpenDir closes it with FSCloseDir.
 struct DIR_HANDLE {
     ustring path;
     int flags = 0;
@@ -52,54 +52,55 @@ struct DIR_HANDLE {
 
 struct DIR_ENTRY {
     ustring name;
-    int type = 0;        // FILE_TYPE_..., NONE where the file system does not tell
+    int type = 0;        // FILE_TYPE_...; FILE_TYPE_NONE where the file system lists no types
     long mtime = 0;      // seconds since the epoch; 0 without DIR_FLAG_STAT
     long long size = 0;  // bytes; 0 without DIR_FLAG_STAT
 };
 
-/// Text before the last '/'; "/" when there is none or it comes first. Purely textual.
+/// The text before the last '/'; "/" when there is none or it is the first byte. Purely textual.
 ustring FSParentPath(const ustring &path);
-/// Text after the last '/', empty when the path ends with one. Purely textual.
+/// The text after the last '/', empty when the path ends with one. Purely textual.
 ustring FSBaseName(const ustring &path);
 /// Whether `child` is `parent` or lies beneath it. Purely textual; a final '/' counts.
 bool FSIsParentFolder(const ustring &parent, const ustring &child);
 
-/// Describes an entry, a symbolic link itself. A missing entry is a success with `exists` false; an
-/// existing one whose stored path cannot be told is a failure.
+/// Describes an entry without following a final symbolic link. A missing entry is a success with
+/// `exists` false; an existing one whose stored path cannot be found is a failure.
 int GetFileInfo(const ustring &path, _FILE_INFO_tag &info);
-/// With `exact`, only when the stored path is the one asked for, letter case included (which makes
-/// relative paths and paths through symbolic links count as missing).
+/// With `exact`, true only if the stored path equals `path`, letter case included. Relative paths
+/// and paths through symbolic links then count as missing.
 bool IsFileExist(const ustring &path, bool exact);
-/// GetFileInfo for what IsFileExist finds; of a missing entry only `exists` is set. Returns -1 for
-/// an empty path, -2 when the information cannot be had.
+/// GetFileInfo for what IsFileExist finds; for a missing entry only `exists` is set. Returns -1 for
+/// an empty path, -2 when GetFileInfo fails.
 int FSStat(const ustring &path, _FILE_INFO_tag &info, bool exact);
-/// Replaces `path` by the stored path with symbolic links resolved; left alone on failure.
+/// Replaces `path` by its stored path with symbolic links resolved. A failure leaves it unchanged.
 int FSGetRealPath(ustring &path);
 
 /// Copies the content of a file, flushes it to disk and, with `remove_source`, removes the source.
-/// Returns -2 when the disk or the quota is full; a partial destination stays.
+/// Returns -2 when the disk or the quota is full. A failure leaves a partial destination.
 int FSCopy(const ustring &src, const ustring &dst, bool remove_source);
 /// Moves an entry, across volumes too (folders and regular files only; other kinds stay where they
 /// are and count as moved). Returns -1 for an empty argument, -2 for a missing source, -100 for a
-/// name that is too long, -3 for the rest.
+/// name that is too long, -3 for any other failure.
 int FSRename(const ustring &src, const ustring &dst, bool exact);
 /// An existing directory is a success. Returns -2 when it could not be created.
 int FSMKDir(const ustring &path, bool recursive);
-/// Makes a directory and its parents. `mode` 0xFFFF means 0777 less the umask; another one is
-/// applied exactly, with the umask of the whole process at 0 meanwhile. `stop` (may be null) is set
-/// to where in the text of `path` the walk ended. Sets errno on failure.
+/// Creates a directory and its parents. `mode` 0xFFFF means 0777 minus the umask; any other mode is
+/// applied exactly, and the umask of the whole process is 0 during the call. `stop`, unless null,
+/// is set to where the walk ended in the text of `path`. Sets errno on failure.
 int FSMKDirP(const ustring &path, char **stop, bool replace_files, unsigned short mode);
-/// Makes the levels of `target` beneath the existing `root`.
+/// Creates the levels of `target` beneath the existing `root`.
 int FSMKDirFromRoot(const ustring &target, const ustring &root);
-/// Removes a file, a symbolic link itself or a whole tree; a missing entry is a success. The flag
-/// changes nothing. Returns -1 when the entry cannot be described, -3 when it cannot be removed.
+/// Removes a file, a whole tree or a symbolic link (not its target); a missing entry is a success.
+/// The flag has no effect. Returns -1 when the entry cannot be described, -3 when it cannot be
+/// removed.
 int FSRemove(const ustring &path, bool);
 
 /// Creates an empty file of mode 0644 with a random name in `dir`.
 int FSMktemp(const ustring &dir, ustring &out);
 /// A random path in `dir`; nothing is created.
 int FSCreateTempPath(const ustring &dir, ustring &out);
-/// Sets both times (seconds since the epoch) of the entry itself, not of a link's target.
+/// Sets both times (seconds since the epoch) without following a final symbolic link.
 int FSUTime(const ustring &path, long atime, long mtime);
 
 int FSOpenDir(const ustring &path, int flags, DIR_HANDLE &handle);
@@ -119,7 +120,7 @@ bool isMountPoint(const ustring &path);
 bool IsMSDOS(const ustring &path);
 
 int FSCreateSymbolicLink(const ustring &target, const ustring &link);
-/// A link text of 1024 bytes or more is a failure.
+/// Fails for a link text of 1024 bytes or more.
 int FSReadSymbolicLink(const ustring &link, ustring &target);
-/// Changes a symbolic link itself.
+/// Does not follow a final symbolic link.
 int FSChown(const ustring &path, unsigned int uid, unsigned int gid);

@@ -4,8 +4,8 @@
 #include "logger.h"
 
 // A module that logs defines LOG_MODULE (its name, a string literal) and LOG_COMPONENT (a constant
-// ustring, built once) before its first message. The macros add what every message starts with:
-// level tag, module name and source line. Messages bring their own line break.
+// ustring, built once) before its first message. The macros start every message with its level tag,
+// module name and source line; the caller ends it with a line break.
 
 #define LOG_MESSAGE(level, format, ...)                        \
     Logger::LogMsg(Logger::LEVEL_##level, LOG_COMPONENT,       \

@@ -14,11 +14,11 @@
 
 namespace {
 
-constexpr int DEFAULT_THRESHOLD = Logger::LEVEL_WARNING;
-constexpr int MAX_LOG_SIZE = 1024 * 1024;
+constexpr int kDefaultThreshold = Logger::LEVEL_WARNING;
+constexpr int kMaxLogSize = 1024 * 1024;  // bytes
 
-/// launcher.log_0 is the newest rotated file. Empty when the name does not fit: a shortened one
-/// could be that of the log itself.
+/// The name of a rotated file; number 0 is the newest. Empty when the name does not fit: a
+/// shortened one could be that of the log itself.
 std::array<char, 1024> RotatedName(char const *path, int index) {
     std::array<char, 1024> name;
     if (snprintf(name.data(), name.size(), "%s_%d", path, index) >= int(name.size())) {
@@ -36,15 +36,15 @@ FILE *OpenForAppending(ustring const &path) {
     return stream;
 }
 
-/// A type that this class does not know opens its path as well; its messages go to standard error.
+/// An unknown type opens its path as well, although its messages go to standard error.
 bool IsFileType(Logger::Type type) {
     return type != Logger::TYPE_SYSLOG && type != Logger::TYPE_STDOUT &&
            type != Logger::TYPE_STDERR;
 }
 
 void CloseStream() {
-    // A file logger that could not open its file still writes to a standard stream. Closing that
-    // would hand its descriptor number to the next file the process opens.
+    // A file logger that could not open its file still writes to a standard stream. If that were
+    // closed, the next file that the process opens would get its descriptor number.
     if (Logger::log_fp != nullptr && Logger::log_fp != stdout && Logger::log_fp != stderr) {
         fclose(Logger::log_fp);
     }
@@ -70,7 +70,7 @@ void FollowOtherWriter() {
 }
 
 void LoadThresholds(ustring const &levelFile) {
-    Logger::log_level["default_component"] = DEFAULT_THRESHOLD;
+    Logger::log_level["default_component"] = kDefaultThreshold;
     if (levelFile.empty()) {
         return;
     }
@@ -83,7 +83,7 @@ void LoadThresholds(ustring const &levelFile) {
 
 int Threshold(ustring const &component) {
     auto const entry = Logger::log_level.find(component);
-    return entry == Logger::log_level.end() ? DEFAULT_THRESHOLD : entry->second;
+    return entry == Logger::log_level.end() ? kDefaultThreshold : entry->second;
 }
 
 int WriteTimeStamp(FILE *stream) {
@@ -127,7 +127,7 @@ void CountAndRotate(int written) {
     if (*Logger::log_size >= 0 && written >= 0) {
         *Logger::log_size += written;
     }
-    if (*Logger::log_size > MAX_LOG_SIZE) {
+    if (*Logger::log_size > kMaxLogSize) {
         Logger::Rotate();
         *Logger::log_size = 0;
     }
@@ -160,7 +160,8 @@ int Logger::Initialize(Logger::Type type, ustring const &path, ustring const &le
     LoadThresholds(levelFile);
     log_type = type;
     if (IsFileType(type)) {
-        // On failure the earlier stream stays; the fresh counters keep it from being rotated.
+        // After a failure the earlier stream stays in use; with the fresh counters it is not
+        // rotated.
         FILE *const stream = path.empty() ? nullptr : OpenForAppending(path);
         if (stream == nullptr) {
             return -1;
@@ -170,7 +171,10 @@ int Logger::Initialize(Logger::Type type, ustring const &path, ustring const &le
         log_path = path;
         rotate_cnt = rotateCount;
     } else {
-        log_fp = type == TYPE_SYSLOG ? nullptr : type == TYPE_STDOUT ? stdout : stderr;
+        log_fp = nullptr;
+        if (type != TYPE_SYSLOG) {
+            log_fp = type == TYPE_STDOUT ? stdout : stderr;
+        }
         log_path.clear();
         *log_size = -1;
     }
@@ -199,7 +203,7 @@ void Logger::LogMsg2(Logger::Level level, ustring const &component, char const *
     if (log_lock == nullptr || log_size == nullptr || log_rotated_count_shared == nullptr) {
         return;  // out of memory
     }
-    // The stream is looked at under the lock: it is null for a moment while another thread rotates.
+    // Checked under the lock, because the stream is null while another thread rotates.
     Lock();
     if (log_type == TYPE_SYSLOG || log_fp != nullptr) {
         FollowOtherWriter();
@@ -225,14 +229,14 @@ int Logger::Rotate() {
     if (rename(path, RotatedName(path, 0).data()) != 0 || !OpenLogFile()) {
         return -1;
     }
-    // Both counters move, so that this process does not reopen the file for its own rotation.
+    // Both counters advance, so that this process does not reopen the file after its own rotation.
     ++*log_rotated_count_shared;
     ++log_rotated_count_private;
     return 0;
 }
 
 void Logger::ReloadLogFile() {
-    // Without a path a file logger could not be set up; the standard stream it uses stays.
+    // A file logger without a path has failed to start and keeps its standard stream.
     if (!IsFileType(log_type) || log_path.empty()) {
         return;
     }
@@ -289,7 +293,8 @@ void Logger::InitializeSharedData() {
         return;
     }
     DestroySharedData();
-    // -1 counts nothing and equal counters reopen nothing until a log file is opened.
+    // Until a log file is opened, -1 keeps bytes from being counted, and equal counters keep the
+    // file from being reopened.
     log_size = new (std::nothrow) int(-1);
     log_rotated_count_shared = new (std::nothrow) unsigned long long(0);
     log_rotated_count_private = 0;

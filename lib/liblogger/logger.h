@@ -14,7 +14,7 @@
 ///
 /// `LogMsg` and `LogMsg2` may be called from any thread once the logger is set up; one mutex keeps
 /// messages whole. `Initialize`, `ReloadLogFile`, `Destroy` and a direct call of `Rotate` take no
-/// lock and belong to a time when no other thread logs. Nothing here throws or logs about itself.
+/// lock: no other thread may log meanwhile. Nothing here throws or logs about itself.
 class Logger {
 public:
     enum Type { TYPE_SYSLOG = 1, TYPE_STDOUT = 2, TYPE_STDERR = 3, TYPE_FILE = 4 };
@@ -44,7 +44,7 @@ public:
     /// Shifts launcher.log_0 and its followers up by one and starts a new file; the caller holds
     /// the lock. Returns 0, or -1 when the new file could not be put in place.
     static int Rotate();
-    /// Opens the log file again, for example after it was moved away by somebody else.
+    /// Opens the log file again, for example after another program has moved it away.
     static void ReloadLogFile();
     /// Stops all logging until the next `Initialize` and frees what the logger holds.
     static void Destroy();

@@ -11,7 +11,7 @@ int FileSystemType(const ustring &path, ustring &name) {
     if (statfs(path.c_str(), &fs) != 0) {
         return -1;
     }
-    // Only the types that a caller compares with have a name here.
+    // Only the types that callers ask for have a name here.
     switch (static_cast<std::uint32_t>(fs.f_type)) {
         case NFS_SUPER_MAGIC:
             name = "nfs";

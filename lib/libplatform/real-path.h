@@ -3,18 +3,18 @@
 
 #include "ustring.h"
 
-/// The longest real path, in bytes with its terminator.
+/// The size of the longest real path in bytes, terminator included.
 constexpr unsigned int kRealPathSize = 4096;
 
-// Why there is no real path, in the numbers of macOS, which end up in the log.
+// Status codes of RealPath. They are those of macOS on every system, because they appear in the
+// log.
 constexpr int kRealPathMissing = -43;
 constexpr int kRealPathTooLong = -2110;
 
-/// What a final symbolic link in a path stands for: itself or the entry that it points to.
+/// Whether a final symbolic link in a path stands for itself or for its target.
 enum class Leaf { kItself, kTarget };
 
-/// Gives the one path by which the file system knows an existing entry: absolute, without "." and
-/// "..", through no symbolic link, every name in the spelling and letter case in which it is
-/// stored. `path` is in the spelling for system calls. Returns 0, or a negative status of the
-/// system, with `real` empty.
+/// Finds the real path of an existing entry: absolute, without ".", ".." and symbolic links, every
+/// name in the spelling and letter case in which it is stored. `path` is in the spelling that
+/// system calls need. Returns 0, or a negative status with `real` empty.
 int RealPath(const ustring &path, Leaf leaf, ustring &real);

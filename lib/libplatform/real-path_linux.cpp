@@ -18,8 +18,8 @@ namespace {
 
 constexpr int kOtherFailure = -36;  // an input or output error
 
-/// An entry that is replaced again and again loses its path each time between two system calls.
-/// After so many attempts it counts as missing.
+/// An entry may be replaced between the two system calls that find its path. After this many
+/// attempts it counts as missing.
 constexpr int kAttempts = 50;
 
 int StatusOf(int error) {
@@ -29,8 +29,8 @@ int StatusOf(int error) {
     return error == ENAMETOOLONG ? kRealPathTooLong : kOtherFailure;
 }
 
-/// The kernel marks the path of an entry that was removed after it was opened. An existing entry
-/// may bear such a name, too.
+/// The kernel appends a mark to the path of an entry that was removed after it was opened. The name
+/// of an existing entry may end in the same way.
 bool WasRemoved(const ustring &path) {
     static const char kMark[] = " (deleted)";
     const unsigned long mark = sizeof(kMark) - 1;
@@ -39,8 +39,8 @@ bool WasRemoved(const ustring &path) {
            lstat(path.c_str(), &st) != 0;
 }
 
-/// The path by which the kernel knows an open entry: one look-up whatever the depth, where
-/// realpath() reads every parent.
+/// The kernel's own path of an open entry. It takes one lookup at any depth, whereas realpath()
+/// reads every parent.
 int PathOfDescriptor(int fd, ustring &path) {
     char link[32];
     std::snprintf(link, sizeof(link), "/proc/self/fd/%d", fd);
@@ -53,8 +53,8 @@ int PathOfDescriptor(int fd, ustring &path) {
     return WasRemoved(path) ? kRealPathMissing : 0;
 }
 
-/// Whether a volume may ignore letter case or spelling: the kernel then knows an entry by the name
-/// that it was last asked for. To name a type here that never does so only costs time.
+/// Whether a volume may ignore letter case or spelling: the kernel then reports the name by which
+/// an entry was opened. Listing a type here that never does so only costs time.
 bool MayFoldNames(const struct statfs &volume) {
     switch (static_cast<std::uint32_t>(volume.f_type)) {
         case CIFS_SUPER_MAGIC:
@@ -68,8 +68,8 @@ bool MayFoldNames(const struct statfs &volume) {
     }
 }
 
-/// Replaces each name in `path` by the one that its folder lists, from the last name upwards to
-/// the root of the volume.
+/// Replaces each name in `path` by the one that its folder lists, from the last name up to the root
+/// of the volume.
 void UseStoredNames(ustring &path) {
     for (unsigned long end = path.length(); end > 1;) {
         const unsigned long begin = path.rfind('/', end - 1) + 1;

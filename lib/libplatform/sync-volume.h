@@ -3,6 +3,6 @@
 
 #include "ustring.h"
 
-/// Writes to disk what the system still holds in memory of the volume under `path`, and waits for
-/// it, device caches included. Returns 0, or -1 with errno set.
+/// Writes all cached data of the volume that holds `path` to the disk, the disk's own cache
+/// included, and waits until it is there. Returns 0, or -1 with errno set.
 int SyncVolume(const ustring &path);

@@ -12,7 +12,7 @@ int SyncVolume(const ustring &path) {
         return -1;
     }
     const int result = syncfs(file);
-    const int error = errno;  // close() may set another
+    const int error = errno;  // close() may change it
     close(file);
     errno = error;
     return result;

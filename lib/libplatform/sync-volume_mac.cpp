@@ -4,6 +4,6 @@
 #include "sync-volume.h"
 
 int SyncVolume(const ustring &path) {
-    // fsync() would leave the data in the drive's cache, and serves one file at a time.
+    // fsync() handles one file only and leaves its data in the drive's cache.
     return sync_volume_np(path.c_str(), SYNC_VOLUME_FULLSYNC | SYNC_VOLUME_WAIT);
 }

@@ -5,14 +5,14 @@
 
 #include "ustring.h"
 
-// One entry can be asked for under several canonically equivalent spellings ("é" as one character
-// or as two). macOS compares names by that equivalence; elsewhere names are bytes, and a system
-// call reaches an entry under one spelling only.
+// A name can have several canonically equivalent spellings ("é" as one character or as two). macOS
+// treats them as the same name. Elsewhere names are bytes, and a system call finds an entry only
+// under the spelling in which it is stored.
 
-/// The spelling under which system calls reach `path`. Components that exist are respelled as they
-/// are stored, a byte-for-byte match first; the rest stays as asked for. Never fails.
+/// The spelling of `path` that system calls need: existing components as they are stored, where the
+/// same bytes win over an equivalent spelling, and missing ones unchanged. Never fails.
 ustring SystemPath(const ustring &path);
 
-/// lstat() of `path` in whatever spelling; afterwards `path` is in the one for system calls. An
-/// entry that is stored as asked for costs no further call. Returns 0 or an errno code.
+/// lstat() for any spelling of `path`, which afterwards has the spelling that system calls need. A
+/// `path` that is already spelt as stored costs a single call. Returns 0 or an errno code.
 int StatEntry(ustring &path, struct stat &st);

@@ -3,7 +3,7 @@
 
 #include <cerrno>
 
-// The file system compares names by canonical equivalence: every spelling reaches the entry.
+// The file system compares names by canonical equivalence, so every spelling finds the entry.
 
 ustring SystemPath(const ustring &path) {
     return path;

@@ -7,9 +7,9 @@
 
 /// Short random names for temporary files and folders.
 ///
-/// The names keep temporary files from colliding; they are no secrets. The generator is RC4, the
-/// cipher that RFC 7465 bans from TLS, keyed from the clock; the characters follow the bit grouping
-/// of Base64 (RFC 4648) with an alphabet of their own. Nothing here looks at the disk.
+/// The names keep temporary files from colliding; they are not secret. The generator is RC4, keyed
+/// from the clock, which RFC 7465 bans from TLS. Bits are grouped into characters as in Base64
+/// (RFC 4648), but with another alphabet. Nothing here accesses the disk.
 class TmpNameGen {
 public:
     /// The process-wide generator, seeded on the first call.
@@ -34,8 +34,8 @@ public:
 
 protected:
     unsigned char m_sbox[256] = {};
-    unsigned char m_key[256] = {};  // seed text, zero bytes behind it
-    unsigned char m_out[6] = {};    // the bytes behind the latest name
+    unsigned char m_key[256] = {};  // seed text, then zero bytes
+    unsigned char m_out[6] = {};    // the bytes that the latest name encodes
 
     static pthread_mutex_t m_lock;  // guards the state of every generator after its construction
 };
