@@ -3,9 +3,6 @@
 
 add_compile_options(-Wall -Wextra -Wshadow -Wformat=2 -Wconversion -Wsign-conversion
                     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -fno-common)
-if(LUMARIS_WERROR)
-    add_compile_options(-Werror)
-endif()
 
 # Debug messages and assertions show paths relative to the sources, whatever folder was built in.
 add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)

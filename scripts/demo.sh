@@ -19,8 +19,11 @@ build "$preset"
 BUILD=$ROOT/build
 [ "$preset" = dev ] || BUILD=$ROOT/build-$preset
 DEMO=$BUILD/demo
+# shellcheck disable=SC2034 # for demo/stage.sh and demo/acts.sh
 PACK=$BUILD/packaging/lumaris-pack/lumaris-pack
+# shellcheck disable=SC2034 # likewise
 CLIENT=$BUILD/samples/client/lumaris-backup-ui
+# shellcheck disable=SC2034 # for demo/launch.sh and demo/languages.sh
 WATCH=$BUILD/scripts/dialog-watch/dialog-watch
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset LUMARIS_CLIENT_IGNORE_SIGTERM

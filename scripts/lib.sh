@@ -8,6 +8,7 @@ ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$ROOT"
 
 # What building, testing and the demo need beyond a bare Debian 12.
+# shellcheck disable=SC2034 # for the scripts that source this file
 PACKAGES=(
     g++ cmake ninja-build
     qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev libgtest-dev
@@ -17,6 +18,7 @@ PACKAGES=(
 )
 
 # For the preset qt6; the demo client is still made of files of Qt 5.
+# shellcheck disable=SC2034 # for test.sh
 QT6_PACKAGES=(qt6-base-dev qt6-base-dev-tools qt6-l10n-tools)
 
 say() { printf '%s\n' "$*"; }

@@ -24,7 +24,7 @@ build_for() {
     cmake -S . -B "$OUT/$1" -G Ninja --toolchain cmake/toolchain-macos.cmake \
         -DLUMARIS_MACOS_KIT="$KIT" -DLUMARIS_MACOS_PROCESSOR="$1" -DCMAKE_BUILD_TYPE=Release \
         -DCMAKE_OSX_DEPLOYMENT_TARGET="$MINIMUM" \
-        -DLUMARIS_WERROR=ON -DBUILD_TESTING=OFF -DLUMARIS_PACKAGE="$PACKAGE" >"$OUT/$1.log" 2>&1 ||
+        -DCMAKE_COMPILE_WARNING_AS_ERROR=ON -DBUILD_TESTING=OFF -DLUMARIS_PACKAGE="$PACKAGE" >"$OUT/$1.log" 2>&1 ||
         die "$(tail -n 20 "$OUT/$1.log")"
     cmake --build "$OUT/$1" --target bundle lumaris-pack
 }

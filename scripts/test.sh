@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 # Installs what is missing, builds and runs every test; with --long those that have more to look at
 # than a quick run can, which takes hours.
-# usage: scripts/test.sh [--long] [PRESET]     PRESET: dev (default), qt6, asan or tsan
+# usage: scripts/test.sh [--long] [PRESET]     PRESET: dev (default), release, qt6, asan or tsan
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 source scripts/sanitizers.sh

@@ -6,7 +6,7 @@ set(Qt5Core_VERSION_MAJOR 5)
 set(Qt5Core_VERSION_MINOR 15)
 set(headers ${LUMARIS_MACOS_KIT}/include/qt5)
 
-foreach(module Core Gui Widgets Network)
+foreach(module Core Gui Widgets)
     add_library(Qt5::${module} UNKNOWN IMPORTED)
     set_target_properties(Qt5::${module} PROPERTIES
         IMPORTED_LOCATION ${LUMARIS_MACOS_KIT}/lib/Qt${module}.tbd
@@ -16,7 +16,6 @@ foreach(module Core Gui Widgets Network)
 endforeach()
 target_link_libraries(Qt5::Gui INTERFACE Qt5::Core)
 target_link_libraries(Qt5::Widgets INTERFACE Qt5::Gui)
-target_link_libraries(Qt5::Network INTERFACE Qt5::Core)
 set(Qt5Test_FOUND ON)
 
 foreach(tool moc rcc qmake)

@@ -11,7 +11,9 @@ launch() {
     start_launcher
     STATUS=0
     wait "$LAUNCHER" || STATUS=$?
+    # shellcheck disable=SC2034 # for acts.sh
     SECONDS_TAKEN=$((($(date +%s%N) - from) / 1000000000))
+    # shellcheck disable=SC2034 # for acts.sh
     PEAK_KB=$(tail -n 1 "$HOME_DIR/../peak")
     say "  the log of this run:"
     tail -n "+$((log_start + 1))" "$USER_DIR/log/launcher.log" | sed "s#$WORK#...#g; s/^/    /"

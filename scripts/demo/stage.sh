@@ -6,6 +6,7 @@
 new_home() {
     HOME_DIR=$WORK/$1/home
     TMP_DIR=$WORK/$1/tmp
+    # shellcheck disable=SC2034 # for launch.sh and acts.sh
     USER_DIR=$HOME_DIR/.LumarisBackup
     mkdir -p "$HOME_DIR" "$TMP_DIR"
 }

@@ -61,7 +61,7 @@ lay_out_kit() {
     wrapper ranlib ranlib
     ln -s "/usr/include/x86_64-linux-gnu/qt5" "$KIT/include/qt5"
     ln -s /usr/include/{archive.h,archive_entry.h,unicode,zstd.h,zstd_errors.h} "$KIT/include/"
-    for module in Core Gui Widgets Network; do
+    for module in Core Gui Widgets; do
         symbols "$LIBRARIES/libQt5$module.so.5" |
             stub "@rpath/Qt$module.framework/Versions/5/Qt$module" "$KIT/lib/Qt$module.tbd"
     done
