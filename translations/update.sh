@@ -1,22 +1,17 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Brings the English texts of the string table into all twenty sources: new texts come in as
-# unfinished, texts that are gone are dropped. English is its own translation and is filled in.
+# Brings the English texts of the string table into all catalogues: new texts are marked as
+# unfinished, old ones are removed. In the English catalogue every text is its own translation.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
 command -v lupdate >/dev/null || PATH=$PATH:/usr/lib/qt5/bin
-declare -A languages=(
-    [enu]=en [cht]=zh_TW [chs]=zh_CN [jpn]=ja [deu]=de [krn]=ko [fra]=fr [ita]=it [esn]=es
-    [ptb]=pt_BR [rus]=ru [dan]=da [nor]=nb [sve]=sv [nld]=nl [plk]=pl [hun]=hu [ptg]=pt_PT
-    [trk]=tr [csy]=cs
-)
-for code in "${!languages[@]}"; do
-    # lupdate wants a language attribute. It does not stay: without it lrelease writes no language
-    # section and no plural rules, which none of the texts need.
-    sed -i "2,4s/<TS version=\"2.1\">/<TS version=\"2.1\" language=\"${languages[$code]}\">/" "$code.ts"
-    lupdate -silent -no-obsolete -locations none ../libcommon/str-table-rows.h -ts "$code.ts"
-    sed -i '2,4s/ \(source\)\?language="[^"]*"//g' "$code.ts"
+for catalogue in *.ts; do
+    # lupdate needs a language, any one, since no text has plural forms. It is removed again: without
+    # it lrelease writes neither a language section nor plural rules.
+    sed -i '2,4s/<TS version="2.1">/<TS version="2.1" language="en">/' "$catalogue"
+    lupdate -silent -no-obsolete -locations none ../libcommon/str-table-rows.h -ts "$catalogue"
+    sed -i '2,4s/ \(source\)\?language="[^"]*"//g' "$catalogue"
 done
 awk '/<source>/ { text = $0; gsub(/^ *<source>|<\/source>$/, "", text) }
      /<translation type="unfinished"/ { print "        <translation>" text "</translation>"; next }

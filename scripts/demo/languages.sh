@@ -4,15 +4,18 @@
 
 act_languages() {
     say "== Languages: the dialog under all twenty locales, on one sheet"
-    declare -A locales=([enu]=en_US [cht]=zh_TW [chs]=zh_CN [jpn]=ja_JP [deu]=de_DE [krn]=ko_KR
-        [fra]=fr_FR [ita]=it_IT [esn]=es_ES [ptb]=pt_BR [rus]=ru_RU [dan]=da_DK [nor]=nb_NO
-        [sve]=sv_SE [nld]=nl_NL [plk]=pl_PL [hun]=hu_HU [ptg]=pt_PT [trk]=tr_TR [csy]=cs_CZ)
-    local code watch pictures=()
+    local languages=(enu=en_US cht=zh_TW chs=zh_CN jpn=ja_JP deu=de_DE krn=ko_KR fra=fr_FR ita=it_IT
+        esn=es_ES ptb=pt_BR rus=ru_RU dan=da_DK nor=nb_NO sve=sv_SE nld=nl_NL plk=pl_PL hun=hu_HU
+        ptg=pt_PT trk=tr_TR csy=cs_CZ)
+    local language code locale watch catalogues pictures=()
+    catalogues=("$ROOT"/translations/*.ts)
+    check "there is a locale for each catalogue" [ ${#languages[@]} -eq ${#catalogues[@]} ]
     new_bundle languages 120
-    # The last text stands while this older layout is removed, otherwise for an instant only.
+    # The last text stays visible while this older layout is removed, otherwise only for an instant.
     mkdir -p "$WORK/aged"
     (cd "$WORK/aged" && seq 20000 | split -a 5 -l 1 - file-)
-    for code in enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy; do
+    for language in "${languages[@]}"; do
+        code=${language%=*} locale=${language#*=}
         new_home "language-$code"
         mkdir -p "$USER_DIR"
         cp -al "$WORK/aged" "$USER_DIR/app"
@@ -20,7 +23,7 @@ act_languages() {
         "$WATCH" "$WORK/screen/Xvfb_screen0" "$WORK/dialog.xwd" "$WORK/end.xwd" \
             > "$WORK/trace-language" &
         watch=$!
-        start_launcher LC_ALL="${locales[$code]}.UTF-8"
+        start_launcher LC_ALL="$locale.UTF-8"
         TITLE=
         while kill -0 "$LAUNCHER" 2>/dev/null && [ -z "$TITLE" ]; do
             TITLE=$(xdotool search --onlyvisible --class launcher getwindowname 2>/dev/null || true)
@@ -34,11 +37,11 @@ act_languages() {
         [ "$TITLE" = "Lumaris Backup" ] || fail "$code: the title is '$TITLE'"
         { [ -s "$WORK/dialog.xwd" ] && [ -s "$WORK/end.xwd" ]; } ||
             fail "$code: the dialog was not seen at work and at its end"
-        check "$code under ${locales[$code]}: dialog, title, catalogue, client" \
+        check "$code under $locale: dialog, title, catalogue, client" \
             grep -q "qstrDef)=\[$code" "$HOME_DIR/../err"
         convert "xwd:$WORK/dialog.xwd" -trim +repage "xwd:$WORK/end.xwd" -trim +repage \
             -background '#e8e8e8' -append "$WORK/$code.png"
-        pictures+=(-label "$code  ${locales[$code]}" "$WORK/$code.png")
+        pictures+=(-label "$code  $locale" "$WORK/$code.png")
         kill -9 "$(client_pid)"
         rm -rf "$HOME_DIR"
     done
