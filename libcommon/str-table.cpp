@@ -12,7 +12,7 @@ namespace StrTable {
 namespace {
 
 constexpr int kCount = 260;
-static_assert(std::size(kRows) == kCount, "IDs are positions: a row is missing or one too many");
+static_assert(std::size(kRows) == kCount, "IDs are positions, so the number of rows is fixed");
 
 const char *stab[kCount];  // English texts
 const char *ktab[kCount];  // keys
@@ -39,7 +39,7 @@ QString LoadStr(int id) {
 int LookupStrID(QString key) {
     const QByteArray wanted = key.toLocal8Bit();
     for (int id = 0; id < kCount; ++id) {
-        // qstricmp takes a table that is not filled yet (null) as less than every key.
+        // Before InitStrTable the keys are null, which qstricmp takes as different from any text.
         if (qstricmp(wanted.constData(), ktab[id]) == 0) {
             return id;
         }

@@ -14,10 +14,6 @@ namespace {
 
 constexpr unsigned long kCopyBlock = 32UL * 1024 * 1024;
 
-struct FreeMemory {
-    void operator()(char *memory) const { std::free(memory); }
-};
-
 /// An open file. The destructor closes it and flushes a written file to disk first.
 class File {
 public:
@@ -88,7 +84,8 @@ int CopyContent(const file_op::Place &src, const file_op::Place &dst) {
     if (out.fd() < 0) {
         return -1;
     }
-    const std::unique_ptr<char, FreeMemory> buffer(static_cast<char *>(std::malloc(kCopyBlock)));
+    const std::unique_ptr<char, void (*)(void *)> buffer(
+        static_cast<char *>(std::malloc(kCopyBlock)), std::free);
     if (!buffer) {
         MSG_ERROR("FSCopy: malloc(%d): %s (%d)\n", static_cast<int>(kCopyBlock),
                   std::strerror(errno), errno);

@@ -18,8 +18,7 @@ void FillNames(const ustring &path, FILE_INFO &info) {
     info.name = FSBaseName(path);
 }
 
-// The members of stat differ in width and sign between systems; those of the record are as wide as
-// any.
+// The members of stat differ in width and sign between systems; the record can hold all of them.
 void FillFromStat(const struct stat &st, FILE_INFO &info) {
     info.exists = true;
     info.mtime = static_cast<long>(st.st_mtime);
@@ -95,10 +94,9 @@ int file_op::RespellAndDescribe(Place &place, FILE_INFO &info, ustring &stored) 
         return -1;
     }
     const ustring composed = place.asked.normalize(ustring::NFC);
-    int status = kRealPathMissing;  // a path that is not valid UTF-8 has no composed form
-    if (!composed.empty()) {
-        status = RealPath(place.system, Leaf::kItself, stored);
-    }
+    // A path that is not valid UTF-8 has no composed form and counts as missing.
+    const int status =
+        composed.empty() ? kRealPathMissing : RealPath(place.system, Leaf::kItself, stored);
     const ustring real = stored.normalize(ustring::NFC);
     if (ReportRealPath(composed, status, real) != 0) {
         return -1;

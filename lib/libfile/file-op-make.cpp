@@ -119,7 +119,7 @@ int FSMKDirP(const ustring &path, char **stop, bool replace_files, unsigned shor
     unsigned long end = 0;
     const int error = MakeLevels(Place::Respelled(path), end, replace_files, mode);
     if (stop != nullptr) {
-        // By its type, the interface hands out a writable pointer into the caller's own text.
+        // The interface returns a writable pointer into the caller's own text.
         *stop = const_cast<char *>(path.c_str()) + end;
     }
     if (error != 0) {

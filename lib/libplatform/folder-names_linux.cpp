@@ -9,10 +9,6 @@
 
 namespace {
 
-struct CloseDir {
-    void operator()(DIR *dir) const { closedir(dir); }
-};
-
 /// Both names are composed. ustring and ICU hold the same UTF-16 units under different type names.
 bool EqualButForCase(const ustring &a, const ustring &b) {
     return u_strcasecmp(reinterpret_cast<const UChar *>(a.c_str_utf16()),
@@ -30,7 +26,8 @@ bool SameName(const ustring &listed, const ustring &composed, bool fold_case) {
 }  // namespace
 
 ustring StoredName(const ustring &folder, const ustring &name, bool fold_case) {
-    const std::unique_ptr<DIR, CloseDir> dir(opendir(folder.empty() ? "." : folder.c_str()));
+    const std::unique_ptr<DIR, int (*)(DIR *)> dir(opendir(folder.empty() ? "." : folder.c_str()),
+                                                   closedir);
     if (!dir || !ustring::is_valid(name)) {
         return name;
     }

@@ -460,9 +460,6 @@ ustring ustring::icu_normalize(const ustring &src, normalization_form form) {
 }
 
 bool ustring::is_valid(const ustring &s) {
-    if (s.empty()) {
-        return true;
-    }
     int32_t len = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8(nullptr, 0, &len, s.m_data, -1, &status);

@@ -35,7 +35,6 @@ public:
         bytes(const char *s) : std::string_view(s) {}
         bytes(char c) : std::string_view(&m_byte, c == '\0' ? 0 : 1), m_byte(c) {}
         bytes(const bytes &) = delete;
-        bytes &operator=(const bytes &) = delete;
 
     private:
         const char m_byte = '\0';  // NUL stands for no byte at all
