@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Measures the launcher beside what one would use instead; scripts/bench.sh prepares and calls it.
+"""Measures the launcher beside what one would use instead. scripts/bench.sh calls it.
 
 usage: compare.py BUILD WORK OTHER_VOLUME [CASE...]
-Without CASE it runs all, prints each line as it comes and writes the tables and plots to docs/; CASE
-is a part of a case's title.
+Prints each line of the table as soon as it is measured. CASE is a part of a case's title. Without it
+all cases run, and the tables and the plot in docs/ are replaced.
 """
 
 import re
@@ -14,7 +14,7 @@ from pathlib import Path
 if len(sys.argv) < 4:
     sys.exit((__doc__ or "").strip())
 
-import growth  # noqa: E402 (these take their folders from the arguments)
+import growth  # noqa: E402 (these modules read the arguments)
 from cases import MICRO, PROGRAMS, micro_row  # noqa: E402
 from material import use_home  # noqa: E402
 from measure import Row  # noqa: E402
@@ -49,18 +49,18 @@ def write_into(page: Path, marks: dict[str, str]) -> None:
 def main() -> None:
     use_home()
     lines = [
-        show(Row(case.what, case.peer, case.goal, case.measure(), case.unit))
+        show(Row(case.what, case.peer, case.limit, case.measure(), case.unit))
         for case in PROGRAMS
         if wanted(case.what)
     ]
     lines += [show(micro_row(*case)) for case in MICRO if wanted(case[0])]
     if WANTED:
         return
-    grown = growth.entries(ROOT / "docs/images") + growth.depth(ROOT / "docs/images")
+    grown = growth.entries(ROOT / "docs/images")
     for line in grown:
         print(" | ".join(line), flush=True)
-    heads = ["case", "this project", "peer", "ratio (spread)", "goal", "met"]
-    marks = {"table": table(heads, lines), "growth": table(["case", "time", "share"], grown)}
+    heads = ["case", "this project", "peer", "ratio (spread)", "limit", "met"]
+    marks = {"table": table(heads, lines), "growth": table(["case", "time", "per entry"], grown)}
     write_into(ROOT / "docs/performance.md", marks)
 
 

@@ -6,13 +6,14 @@
 
 #include "extractor.h"
 #include "launcher.h"
-#include "mac/mac-service.h"
+#include "lumaris-service.h"
 #include "notify-adapter.h"
+#include "service-factory.h"
 #include "str-table.h"
 
 // usage: dialog-timing PACKAGE FOLDER silent|reports|dialog
-// Prints the seconds that one extraction takes while the launcher's own controller and worker run:
-// with nobody listening, with the hidden dialog following the reports, or with the visible one.
+// Prints the seconds of one extraction by the launcher's own controller and worker, whose reports
+// go to nobody (silent), to the hidden dialog (reports) or to the visible one (dialog).
 
 namespace {
 
@@ -28,26 +29,29 @@ void Extract() {
     }
 }
 
+/// A service that only extracts. Only an upgrade shows the dialog, so the other modes extract
+/// before the decision.
+class ExtractingService : public Service {
+public:
+    void StopService() override {}
+    void PreUpgrade() override {
+        if (!IsNeedUpgrade()) {
+            Extract();
+        }
+    }
+    bool IsNeedUpgrade() override { return std::strcmp(mode, "dialog") == 0; }
+    int HandlePackageUpgrade() override {
+        Extract();
+        return 0;
+    }
+    void PostUpgrade() override {}
+};
+
 }  // namespace
 
-// A service that does nothing else, linked in place of the real one. Only an upgrade shows the
-// dialog, so the other modes extract before the decision.
-MacService::MacService() = default;
-MacService::~MacService() = default;
-void MacService::StopService() {}
-void MacService::PreUpgrade() {
-    if (!IsNeedUpgrade()) {
-        Extract();
-    }
+Service *NewService() {
+    return new ExtractingService;
 }
-bool MacService::IsNeedUpgrade() {
-    return std::strcmp(mode, "dialog") == 0;
-}
-int MacService::HandlePackageUpgrade() {
-    Extract();
-    return 0;
-}
-void MacService::PostUpgrade() {}
 
 int main(int argc, char **argv) {
     QApplication app(argc, argv);

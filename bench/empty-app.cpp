@@ -10,9 +10,9 @@
 #include "str-table.h"
 
 // usage: empty-app [hidden|shown]
-// What every start costs at least: an application object and an event loop that opens the client of
-// the home folder and ends, with or without the launcher's dialog hidden; or one that shows the
-// dialog for a moment. It lies beside the launcher and so uses the same plug-ins.
+// The least that a start can cost: an application object and an event loop that opens the client in
+// the home folder and quits. "hidden" also creates the launcher's dialog; "shown" shows it for half
+// a second instead of opening the client. The program lies beside the launcher to use its plug-ins.
 int main(int argc, char **argv) {
     QCoreApplication::setLibraryPaths({QDir::cleanPath(
         QString::fromLocal8Bit(argv[0]) + QStringLiteral("/../../Frameworks/plugins"))});

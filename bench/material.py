@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What is measured on. Everything lies in the work folder and is made when the first case needs it."""
+"""The material of the measurements. It lies in the work folder; each part is made when first needed."""
 
 import os
 import shutil
@@ -16,7 +16,7 @@ MB = 1000 * 1000
 
 
 def remove(path: Path) -> Path:
-    """Clears away what a run left; paths may be too deep for Python."""
+    """Removes what an earlier run has left."""
     subprocess.run(["rm", "-rf", path], check=True)
     return path
 
@@ -28,23 +28,30 @@ def fresh(name: str) -> Path:
 
 
 def another_folder() -> Path:
-    """Where packages are installed: in memory, so that no disk is measured."""
+    """An empty folder in memory for an installation, so that no disk is measured."""
     path = remove(OTHER_VOLUME / "installed")
     path.mkdir()
     return path
 
 
-def pack(name: str, client: Path, *options: str) -> Path:
-    """The package of a client folder, in the default format; its folder also holds the INFO."""
+def pack(name: str, client: Path) -> Path:
+    """The folder with the package and the INFO file of a client folder."""
     out = WORK / f"{name}-package"
     tool = BUILD / "packaging/lumaris-pack/lumaris-pack"
     version = ["--major", "2", "--minor", "5", "--build", "120"]
-    subprocess.run([tool, *version, *options, client, out], check=True)
+    subprocess.run([tool, *version, client, out], check=True)
+    return out
+
+
+def zipped(name: str, client: Path) -> Path:
+    """The same client folder as zip."""
+    out = WORK / f"{name}.zip"
+    subprocess.run(["bsdtar", "--format", "zip", "-cf", out, "-C", client, "Contents"], check=True)
     return out
 
 
 def bare_client(name: str) -> Path:
-    """A client folder with what every package needs and room for more in `Contents/more`."""
+    """A client folder with what every package needs, and an empty `Contents/more`."""
     client = fresh(name) / "Lumaris.app"
     contents = client / "Contents"
     for folder in ("MacOS", "Resources", "more"):
@@ -58,7 +65,7 @@ def bare_client(name: str) -> Path:
 
 @cache
 def bundle_client() -> Path:
-    """The demo client that the build has staged, with a program that says when it runs."""
+    """The demo client that the build has staged, with an executable that reports its start."""
     client = fresh("bundle") / "Lumaris.app"
     subprocess.run(["cp", "-R", BUILD / "packaging/bundle/client/Lumaris.app", client], check=True)
     shutil.copy(BENCH / "stamp-client", client / "Contents/MacOS/lumaris-backup-ui")
@@ -66,46 +73,47 @@ def bundle_client() -> Path:
 
 
 @cache
-def bundle_package(*options: str) -> Path:
-    return pack("bundle" + "".join(options), bundle_client(), *options)
+def bundle_package() -> Path:
+    return pack("bundle", bundle_client())
 
 
 @cache
-def small_entries(count: int, *options: str) -> Path:
-    client = WORK / f"entries-{count}/Lumaris.app"
-    if not client.exists():
-        client = bare_client(f"entries-{count}")
-        for index in range(count):
-            folder = client / f"Contents/more/{index // 1000}"
-            folder.mkdir(exist_ok=True)
-            (folder / f"entry-{index}").write_text(f"{index}\n")
-    return pack(f"entries-{count}" + "".join(options), client, *options) / PACKAGE
+def bundle_zip() -> Path:
+    return zipped("bundle", bundle_client())
 
 
-def make_tree(root: Path, folders: int, files: int, content: bytes = b"content\n") -> Path:
+@cache
+def small_client(count: int) -> Path:
+    client = bare_client(f"entries-{count}")
+    for index in range(count):
+        folder = client / f"Contents/more/{index // 1000}"
+        folder.mkdir(exist_ok=True)
+        (folder / f"entry-{index}").write_text(f"{index}\n")
+    return client
+
+
+@cache
+def small_entries(count: int) -> Path:
+    return pack(f"entries-{count}", small_client(count)) / PACKAGE
+
+
+@cache
+def small_zip(count: int) -> Path:
+    return zipped(f"entries-{count}", small_client(count))
+
+
+def make_tree(root: Path, folders: int, files: int) -> Path:
     for folder in range(folders):
         path = root / f"folder-{folder}"
         path.mkdir(parents=True)
         for file in range(files):
-            (path / f"file-{file}").write_bytes(content)
-    return root
-
-
-def make_chain(root: Path, depth: int, files: int) -> Path:
-    """Folders in folders, the files spread over them."""
-    root.mkdir()
-    path = root
-    for level in range(depth):
-        for file in range(files // depth):
-            (path / f"f{file}").touch()
-        path = path / "d"
-        path.mkdir()
+            (path / f"file-{file}").write_bytes(b"content\n")
     return root
 
 
 @cache
 def bundle() -> Path:
-    """The staged launcher with the measured package, and the empty application beside it."""
+    """The staged launcher with the package of `bundle_client`, and the empty application beside it."""
     app = fresh("launcher") / "LumarisLauncher.app"
     subprocess.run(["cp", "-R", BUILD / "LumarisLauncher.app", app], check=True)
     shutil.copy(BENCH / "empty-app", app / "Contents/MacOS")

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Runs programs in turns and tells what they cost."""
+"""Runs programs in turns and measures what they cost."""
 
 import json
 import os
@@ -21,7 +21,7 @@ class Row:
 
     case: str
     peer: str
-    goal: float | None
+    limit: float | None
     pairs: list[Pair]
     unit: str = "seconds"  # or "size" in MB, or "memory" in MB, which is subtracted
     note: str = ""
@@ -35,17 +35,17 @@ class Row:
         middle = shape.format(statistics.median(figures))
         spread = f"{shape.format(figures[0])} to {shape.format(figures[-1])}"
         unit = " MB" if self.unit == "memory" else ""
-        goal, met = "-", "-"
-        if self.goal is not None:
-            goal = f"{shape.format(self.goal)}{unit}"
-            met = "yes" if float(middle) <= self.goal else "**no**"
+        limit, met = "-", "-"
+        if self.limit is not None:
+            limit = f"{shape.format(self.limit)}{unit}"
+            met = "yes" if float(middle) <= self.limit else "**no**"
         amount: Callable[[float], str] = duration if self.unit == "seconds" else megabytes
         return [
             self.case,
             amount(ours) + self.note,
             f"{self.peer}: {amount(peer)}",
             f"{middle}{unit} ({spread})",
-            goal,
+            limit,
             met,
         ]
 
@@ -70,7 +70,7 @@ class Finished:
 
 
 def run(*words: object, **environment: str) -> Finished:
-    """Runs a program; what earlier ones wrote is on the disk by then."""
+    """Runs a program after everything that is already written has reached the disk."""
     os.sync()
     argv = [str(word) for word in words]
     with tempfile.TemporaryFile() as errors:
@@ -101,7 +101,7 @@ def printed(*words: object) -> float:
 
 
 def until_client(home: Path, *words: object) -> float:
-    """Seconds until the client that the program opens says that it runs."""
+    """Seconds until the client that the program opens reports its start."""
     pipe = home / "started"
     if not pipe.exists():
         os.mkfifo(pipe)
@@ -115,7 +115,7 @@ def until_client(home: Path, *words: object) -> float:
 
 
 def turns(count: int, ours: Callable[[], float], peer: Callable[[], float]) -> list[Pair]:
-    """Pairs of neighbouring runs, after one of each that only warms up."""
+    """Pairs of neighbouring runs, after one warm-up run of each."""
     ours()
     peer()
     pairs = []
@@ -130,7 +130,7 @@ def turns(count: int, ours: Callable[[], float], peer: Callable[[], float]) -> l
 
 
 def micro(program: Path, name: str, repetitions: int = 15) -> tuple[list[Pair], float]:
-    """Pairs of one micro-benchmark, both sides shuffled, and the project's allocations."""
+    """Pairs of one micro-benchmark, run in random order, and the project's allocations."""
     argv = [
         str(program),
         f"--benchmark_filter=^{name}/",

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Preloaded, it makes the writing of a volume to the disk cost nothing.
+// Preloaded into the launcher, it makes the sync of the volume cost nothing.
 extern "C" int syncfs(int /*fd*/) {
     return 0;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A client that only tells when it was started: it writes the time to the pipe "started" in the
-// home folder, if somebody reads it, and ends.
+// A client that writes the time of its start to the pipe "started" in the home folder, if anybody
+// reads from it, and exits.
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -4,10 +4,10 @@
 add_compile_options(-Wall -Wextra -Wshadow -Wformat=2 -Wconversion -Wsign-conversion
                     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -fno-common)
 
-# Debug messages and assertions show paths relative to the sources, whatever folder was built in.
+# Debug messages and assertions name source files relative to the source folder.
 add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
 
-# Text and bytes are converted where the code says so, never implicitly.
+# No implicit conversions between text and bytes.
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
                         QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
 
@@ -15,12 +15,12 @@ if(LUMARIS_SANITIZE)
     add_compile_options(-fsanitize=${LUMARIS_SANITIZE} -fno-omit-frame-pointer
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${LUMARIS_SANITIZE})
-    # GCC's manual: this warning has false positives in instrumented code (std::regex, for one).
+    # In instrumented code this warning has false positives, for example in std::regex.
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 
-# What a program that reads archives can do about its own faults: bounds are checked where the
-# compiler and the library know them, and nothing that is called through tables can be overwritten.
+# Limits the damage of faults, since the program reads archives: bounds are checked where the compiler
+# or the library knows them, and the tables through which functions are called are read-only.
 if(LUMARIS_HARDEN)
     add_compile_options(-fstack-protector-strong)
     add_compile_definitions(_FORTIFY_SOURCE=2 _GLIBCXX_ASSERTIONS)

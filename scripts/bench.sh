@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Measures the launcher (release build) beside what one would use instead: prints one table and
-# writes it to docs/performance.md. For figures worth keeping the machine has nothing else to do.
-# usage: scripts/bench.sh [CASE...]     CASE: a part of a case's title; only printed then
+# Measures the launcher (release build) beside what one would use instead, prints the results and
+# writes them to docs/performance.md. Keep only results from a machine with nothing else to do.
+# usage: scripts/bench.sh [CASE...]     CASE: a part of a case's title; the page then stays as it is
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 install_packages "${PACKAGES[@]}" libarchive-tools python3-matplotlib

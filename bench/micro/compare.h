@@ -8,8 +8,8 @@
 
 #include "ustring.h"
 
-/// Registers one comparison as NAME/project and NAME/peer. Both do the same work, once for each
-/// call; `bench/compare` runs them in turns and prints the ratio.
+/// Registers one comparison as NAME/project and NAME/peer. Each call of either does the same work
+/// once; bench/compare.py runs both in turns and prints their ratio.
 template <typename Project, typename Peer>
 void Compare(const std::string &name, Project project, Peer peer) {
     benchmark::RegisterBenchmark((name + "/project").c_str(), [project](benchmark::State &state) {
@@ -24,10 +24,10 @@ void Compare(const std::string &name, Project project, Peer peer) {
     });
 }
 
-/// Calls to the C allocator by this process so far, those behind operator new included.
+/// The number of calls of the C allocator so far, those by operator new included.
 unsigned long Allocations();
 
-/// A folder of this run, removed at its end.
+/// A folder that is removed at the end of the run.
 const std::string &WorkFolder();
 
 struct Path {
@@ -35,9 +35,8 @@ struct Path {
     ustring own;
 };
 
-/// What the launcher's strings hold: paths of 20 to 120 bytes, some of them not ASCII.
+/// Fourteen paths of 20 to 120 bytes, like those of the launcher; five are not ASCII.
 const std::vector<Path> &Paths();
 
 void CompareStrings();
 void CompareLogging();
-void CompareConfig();

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kKeptFiles = 50;  // the current one included
 
-/// A log like the launcher's, with a threshold for every component.
+/// A log like the launcher's, with a threshold for each component.
 void OpenLog() {
     static const bool opened = [] {
         const std::string levels = WorkFolder() + "/launcher.debug";
@@ -30,7 +30,8 @@ void OpenLog() {
     static_cast<void>(opened);
 }
 
-/// Writes the same bytes, time stamp included, with the same lock, flush, size and number of files.
+/// Like the project's log: the same bytes with a time stamp, a lock, a flush for each message, and
+/// the same size and number of files.
 spdlog::logger &PeerLog() {
     static const std::unique_ptr<spdlog::logger> log = [] {
         auto sink = std::make_shared<spdlog::sinks::rotating_file_sink_mt>(

@@ -5,7 +5,6 @@
 #include <QString>
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 #include "compare.h"
 
@@ -34,69 +33,7 @@ void CompareBuilding() {
         });
 }
 
-/// One search in every path; `search` takes a ustring or a string_view.
-template <typename Search>
-void CompareSearch(const char *name, Search search) {
-    Compare(
-        name,
-        [search] {
-            for (const Path &path : Paths()) {
-                DoNotOptimize(search(path.own));
-            }
-        },
-        [search] {
-            for (const Path &path : Paths()) {
-                DoNotOptimize(search(std::string_view(path.text)));
-            }
-        });
-}
-
-void CompareSearches() {
-    CompareSearch("ustring-find-byte", [](const auto &s) { return s.find('.', 0); });
-    CompareSearch("ustring-find-text", [](const auto &s) { return s.find("Contents", 0); });
-    CompareSearch("ustring-rfind-byte", [](const auto &s) { return s.rfind('/', ustring::npos); });
-    CompareSearch("ustring-rfind-text",
-                  [](const auto &s) { return s.rfind("/Contents", ustring::npos); });
-    CompareSearch("ustring-find-first-of", [](const auto &s) { return s.find_first_of(":.", 0); });
-    CompareSearch("ustring-find-first-not-of", [](const auto &s) {
-        return s.find_first_not_of("/ABCDEUabcdefghijklmnopqrstu", 0);
-    });
-    CompareSearch("ustring-find-last-of",
-                  [](const auto &s) { return s.find_last_of("/\\", ustring::npos); });
-    CompareSearch("ustring-find-last-not-of", [](const auto &s) {
-        return s.find_last_not_of("abcdefghijklmnopqrstuvwxyz", ustring::npos);
-    });
-}
-
-/// Every path with its neighbour and with an equal one in another place of the memory.
-void CompareComparing() {
-    static const std::vector<Path> copies = Paths();
-    const auto each = [](auto view) {
-        const std::vector<Path> &paths = Paths();
-        for (size_t i = 0; i < paths.size(); ++i) {
-            const auto &one = view(paths[i]), &copy = view(copies[i]);
-            const auto &next = view(copies[(i + 1) % paths.size()]);
-            DoNotOptimize(one.compare(copy));
-            DoNotOptimize(one.compare(next));
-        }
-    };
-    Compare(
-        "ustring-compare", [each] { each([](const Path &p) -> const ustring & { return p.own; }); },
-        [each] { each([](const Path &p) { return std::string_view(p.text); }); });
-    const auto equal = [](auto view) {
-        const std::vector<Path> &paths = Paths();
-        for (size_t i = 0; i < paths.size(); ++i) {
-            DoNotOptimize(view(paths[i]) == view(copies[i]));
-            DoNotOptimize(view(paths[i]) < view(copies[(i + 1) % paths.size()]));
-        }
-    };
-    Compare(
-        "ustring-operators",
-        [equal] { equal([](const Path &p) -> const ustring & { return p.own; }); },
-        [equal] { equal([](const Path &p) { return std::string_view(p.text); }); });
-}
-
-/// ICU with buffers that exist already and are large enough, and with known lengths.
+/// ICU with buffers that exist and are large enough, and with known lengths.
 struct Icu {
     std::array<UChar, 256> units;
     std::array<UChar, 256> normal;
@@ -123,7 +60,7 @@ struct Icu {
 };
 
 void CompareRoundTrip() {
-    // Objects of their own for every path: what they hold fits already, as the peer's buffers do.
+    // One object per path: after the first run its buffers fit, as the peer's do.
     static std::vector<ustring> there(Paths().size()), back(Paths().size());
     static Icu icu;
     Compare(
@@ -166,8 +103,6 @@ void CompareNormalize(const char *name, ustring::normalization_form form,
 
 void CompareStrings() {
     CompareBuilding();
-    CompareSearches();
-    CompareComparing();
     CompareRoundTrip();
     CompareNormalize("ustring-normalize-nfc", ustring::NFC, UNORM2_COMPOSE);
     CompareNormalize("ustring-normalize-nfd", ustring::NFD, UNORM2_DECOMPOSE);

@@ -4,7 +4,8 @@
 #include "lumaris-service.h"
 
 /// The service for macOS: decides about the upgrade, stops the running client and opens the bundle.
-/// It calls nothing of macOS itself (see platform/) and is compiled, run and tested on every system.
+/// It calls nothing of macOS itself (see platform/) and is compiled, run and tested on every
+/// system.
 ///
 /// Used on the worker thread, in the order `PreUpgrade`, `IsNeedUpgrade`, `HandlePackageUpgrade`
 /// (only when needed), `RemoveAgedFolders`, `PostUpgrade`.
