@@ -6,7 +6,7 @@ from pathlib import Path
 from typing import Callable
 
 from material import (
-    BENCH, MB, OPERATION, PACKAGE, WORK, another_folder, bundle, bundle_package, bundle_zip,
+    BENCH, MB, OPERATION, OTHER_VOLUME, PACKAGE, another_folder, bundle, bundle_package, bundle_zip,
     make_tree, small_entries, small_zip, use_home,
 )  # fmt: skip
 from measure import Pair, Row, micro, printed, run, seconds, turns, until_client
@@ -67,7 +67,7 @@ def dialog(package: Path, count: int, mode: str) -> list[Pair]:
 
 def start(*peer_mode: str) -> list[Pair]:
     home = use_home()
-    run(bundle() / "launcher")  # installs
+    until_client(home, bundle() / "launcher")  # installs; its client must not write later
     return turns(
         15,
         lambda: until_client(home, bundle() / "launcher"),
@@ -91,7 +91,7 @@ def memory() -> list[Pair]:
 
 
 def removal() -> list[Pair]:
-    tree = WORK / "tree"
+    tree = OTHER_VOLUME / "tree"
     return turns(
         5,
         lambda: seconds(OPERATION, "remove", make_tree(tree, 200, 100)),
