@@ -11,7 +11,7 @@ set(CMAKE_OSX_SYSROOT "" CACHE STRING "The compiler brings its own")
 set(CMAKE_CXX_COMPILER ${LUMARIS_MACOS_KIT}/bin/c++-${LUMARIS_MACOS_PROCESSOR})
 set(CMAKE_AR ${LUMARIS_MACOS_KIT}/bin/ar CACHE FILEPATH "")
 set(CMAKE_RANLIB ${LUMARIS_MACOS_KIT}/bin/ranlib CACHE FILEPATH "")
-set(CMAKE_INSTALL_NAME_TOOL /usr/bin/llvm-install-name-tool-14 CACHE FILEPATH "")
+set(CMAKE_INSTALL_NAME_TOOL ${LUMARIS_MACOS_KIT}/tools/install_name_tool CACHE FILEPATH "")
 
 # Nothing of the machine's own libraries may be found by chance.
 set(CMAKE_FIND_ROOT_PATH ${LUMARIS_MACOS_KIT})
@@ -20,10 +20,11 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(Qt5_DIR ${CMAKE_CURRENT_LIST_DIR}/macos)
-foreach(library LibArchive:archive ICU:icuuc ZSTD:zstd)
+foreach(library LibArchive:libarchive/lib/libarchive ICU:icu4c/lib/libicuuc ZSTD:zstd/lib/libzstd)
     string(REGEX MATCH "(.*):(.*)" _ ${library})
     set(${CMAKE_MATCH_1}_INCLUDE_DIR ${LUMARIS_MACOS_KIT}/include CACHE PATH "")
-    set(${CMAKE_MATCH_1}_LIBRARY ${LUMARIS_MACOS_KIT}/lib/lib${CMAKE_MATCH_2}.tbd CACHE FILEPATH "")
+    set(${CMAKE_MATCH_1}_LIBRARY
+        ${LUMARIS_MACOS_KIT}/${LUMARIS_MACOS_PROCESSOR}/${CMAKE_MATCH_2}.tbd CACHE FILEPATH "")
 endforeach()
 set(ICU_UC_LIBRARY_RELEASE ${ICU_LIBRARY} CACHE FILEPATH "")
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Compiles and links the launcher and lumaris-pack for macOS, for both processors, joins them into
-# universal programs, stages LumarisLauncher.app and looks at what came out. All of it on Linux:
-# built and linked here, run nowhere yet. Everything lies in build-macos.
+# Compiles and links the launcher and lumaris-pack for macOS, for both processors, installs the bundle
+# as for a release, over stand-ins for the libraries, joins it into a universal one and looks at what
+# came out. All of it on Linux: built and linked here, run nowhere yet. Everything lies in build-macos.
 # usage: scripts/macos.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -17,6 +17,7 @@ LIBRARIES=/usr/lib/x86_64-linux-gnu
 APP=$OUT/LumarisLauncher.app
 source scripts/macos/kit.sh
 source scripts/macos/look.sh
+export PATH=$KIT/tools:$PATH # the tools of macOS, under their names there
 
 # build_for PROCESSOR: warnings are errors, as in the development build.
 build_for() {
@@ -29,9 +30,15 @@ build_for() {
     cmake --build "$OUT/$1" --target bundle lumaris-pack
 }
 
+# install_for PROCESSOR FOLDER: the bundle with every library that it needs
+install_for() {
+    cmake --install "$OUT/$1" --component launcher --prefix "$2" >"$OUT/install.log" 2>&1 ||
+        die "$(grep -m 1 -e error: -e 'there is no' "$OUT/install.log" || tail -n 20 "$OUT/install.log")"
+}
+
 # universal PROGRAM OUTPUT: one file for both processors
 universal() {
-    llvm-lipo-14 -create "$OUT/x86_64/$1" "$OUT/aarch64/$1" -output "$2"
+    lipo -create "$OUT/x86_64/$1" "$OUT/aarch64/$1" -output "$2"
 }
 
 [ "$(uname -sm)" = "Linux x86_64" ] || die "the compiler for macOS runs on Linux on x86_64 only"
@@ -48,12 +55,16 @@ for processor in "${PROCESSORS[@]}"; do
     build_for "$processor"
 done
 
-rm -rf "$APP"
-cp -R "$OUT/${PROCESSORS[0]}/LumarisLauncher.app" "$APP"
-universal ui-client/launcher/launcher "$APP/Contents/MacOS/launcher"
+for processor in "${PROCESSORS[@]}"; do
+    install_for "$processor" "$OUT/stage-$processor"
+done
+packaging/bundle/join.sh "$OUT/stage-x86_64/LumarisLauncher.app" \
+    "$OUT/stage-aarch64/LumarisLauncher.app" "$APP"
+packaging/bundle/check-loads.sh "$APP"
+universal ui-client/launcher/launcher "$OUT/launcher"
 universal packaging/lumaris-pack/lumaris-pack "$OUT/lumaris-pack"
 
-look_at_program "$APP/Contents/MacOS/launcher" @executable_path/../Frameworks QtCore QtGui QtWidgets libarchive libicuuc CoreServices
-look_at_program "$OUT/lumaris-pack" "" QtCore libarchive libzstd
-look_at_bundle "$APP"
+look_at_program "$OUT/launcher" @executable_path/../Frameworks QtCore QtGui QtWidgets libarchive.13 libicuuc.74 CoreServices
+look_at_program "$OUT/lumaris-pack" "" QtCore libarchive.13 libzstd.1
+look_at_bundle "$APP" "$PACKAGE"
 say "build-macos/LumarisLauncher.app: built and linked here, run nowhere yet"
