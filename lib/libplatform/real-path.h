@@ -10,6 +10,10 @@ constexpr unsigned int kRealPathSize = 4096;
 constexpr int kRealPathMissing = -43;
 constexpr int kRealPathTooLong = -2110;
 
+/// What `RealPathOnce` says of an entry that was there and lost its path between two system calls,
+/// because it was removed or replaced. No status of macOS is positive.
+constexpr int kRealPathVanished = 1;
+
 /// What a final symbolic link in a path stands for: itself or the entry that it points to.
 enum class Leaf { kItself, kTarget };
 
@@ -18,3 +22,7 @@ enum class Leaf { kItself, kTarget };
 /// stored. `path` is in the spelling for system calls. Returns 0, or a negative status of the
 /// system, with `real` empty.
 int RealPath(const ustring &path, Leaf leaf, ustring &real);
+
+/// One attempt at that, the part that differs by system: 0, a negative status or
+/// `kRealPathVanished`. `real` counts only with 0.
+int RealPathOnce(const ustring &path, Leaf leaf, ustring &real);
