@@ -19,6 +19,8 @@ target_link_libraries(Qt5::Gui INTERFACE Qt5::Core)
 target_link_libraries(Qt5::Widgets INTERFACE Qt5::Gui)
 target_link_libraries(Qt5::Network INTERFACE Qt5::Core)
 target_link_libraries(Qt5::Test INTERFACE Qt5::Core)
+# The header for tests declares more where these say that there are windows.
+target_compile_definitions(Qt5::Widgets INTERFACE QT_GUI_LIB QT_WIDGETS_LIB)
 
 foreach(plugin QCocoaIntegrationPlugin:platforms/libqcocoa
         QOffscreenIntegrationPlugin:platforms/libqoffscreen QMacStylePlugin:styles/libqmacstyle)

@@ -67,6 +67,14 @@ look_at_bundle() {
     say "$(basename "$1"): complete; Info.plist is valid and names the version of the package"
 }
 
+# look_at_tests: how many test programs there are
+look_at_tests() {
+    local programs
+    programs=$(find "$OUT/aarch64/tests" -path '*.app/Contents/MacOS/*' -type f | wc -l)
+    [ "$programs" -gt 0 ] || die "no test program was built"
+    echo "$programs test programs"
+}
+
 # value_of KEY BUNDLE: the number that Info.plist gives
 value_of() {
     sed -n "/<key>$1</{n;s/[^0-9.]*//g;p}" "$2/Contents/Info.plist"
