@@ -145,7 +145,9 @@ Service *NewService() {
 int main(int argc, char **argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
-    setlocale(LC_ALL, "C.UTF-8");
+    if (setlocale(LC_ALL, "C.UTF-8") == nullptr) {
+        setlocale(LC_ALL, "en_US.UTF-8");  // as macOS has it
+    }
     StrTable::InitStrTable();
     return RUN_ALL_TESTS();
 }
