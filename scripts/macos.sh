@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Compiles and links everything for macOS, for both processors, the tests for one of them, installs the bundle
-# as for a release, over stand-ins for the libraries, joins it into a universal one and looks at what
-# came out. All of it on Linux: built and linked here, run nowhere yet. Everything lies in build-macos.
+# Compiles and links everything for macOS, for both processors, and the tests for one of them. Then it
+# installs the bundle as for a release, over stand-ins for the libraries, joins both into a universal one
+# and looks at what came out. All of it on Linux: built, linked and deployed here, run nowhere yet.
+# Everything lies in build-macos.
 # usage: scripts/macos.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -19,7 +20,7 @@ source scripts/macos/kit.sh
 source scripts/macos/look.sh
 export PATH=$KIT/tools:$PATH # the tools of macOS, under their names there
 
-# build_for PROCESSOR TESTS: everything, with the tests if TESTS is ON. Warnings are errors, as in the
+# build_for PROCESSOR TESTS TARGET...: with the tests if TESTS is ON. Warnings are errors, as in the
 # development build.
 build_for() {
     say "building for $1"
@@ -28,7 +29,7 @@ build_for() {
         -DCMAKE_OSX_DEPLOYMENT_TARGET="$MINIMUM" \
         -DLUMARIS_WERROR=ON -DBUILD_TESTING="$2" -DLUMARIS_PACKAGE="$PACKAGE" >"$OUT/$1.log" 2>&1 ||
         die "$(tail -n 20 "$OUT/$1.log")"
-    cmake --build "$OUT/$1"
+    cmake --build "$OUT/$1" --target "${@:3}"
 }
 
 # install_for PROCESSOR FOLDER: the bundle with every library that it needs
@@ -52,8 +53,8 @@ PACKAGE=$ROOT/build/packaging/bundle/package
 mkdir -p "$OUT"
 fetch_compiler
 lay_out_kit
-build_for x86_64 OFF
-build_for aarch64 ON # once is enough to see that the tests compile and link
+build_for x86_64 OFF bundle packaging/lumaris-pack/all
+build_for aarch64 ON all # once is enough to see that tests and benchmarks compile and link
 for processor in "${PROCESSORS[@]}"; do
     install_for "$processor" "$OUT/stage-$processor"
 done
@@ -63,7 +64,8 @@ packaging/bundle/check-loads.sh "$APP"
 universal ui-client/launcher/launcher "$OUT/launcher"
 universal packaging/lumaris-pack/lumaris-pack "$OUT/lumaris-pack"
 
-look_at_program "$OUT/launcher" @executable_path/../Frameworks QtCore QtGui QtWidgets libarchive.13 libicuuc.74 CoreServices
+look_at_program "$OUT/launcher" @executable_path/../Frameworks \
+    QtCore QtGui QtWidgets libarchive.13 libicuuc.74 CoreServices
 look_at_program "$OUT/lumaris-pack" "" QtCore libarchive.13 libzstd.1
 look_at_bundle "$APP" "$PACKAGE"
-say "build-macos/LumarisLauncher.app and $(look_at_tests): built and linked here, run nowhere yet"
+say "build-macos/LumarisLauncher.app and $(look_at_tests): built, linked and deployed here, run nowhere yet"
