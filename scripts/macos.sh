@@ -66,6 +66,6 @@ universal packaging/lumaris-pack/lumaris-pack "$OUT/lumaris-pack"
 
 look_at_program "$OUT/launcher" @executable_path/../Frameworks \
     QtCore QtGui QtWidgets libarchive.13 libicuuc.74 CoreServices
-look_at_program "$OUT/lumaris-pack" "" QtCore libarchive.13 libzstd.1
+look_at_program "$OUT/lumaris-pack" "" QtCore libarchive.13 libicuuc.74 libzstd.1 CoreServices
 look_at_bundle "$APP" "$PACKAGE"
 say "build-macos/LumarisLauncher.app and $(look_at_tests): built, linked and deployed here, run nowhere yet"
