@@ -1,14 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Draws the icon of the dialog and the one of the bundle from ico_72_lumaris.svg; both are kept, so
-# that a build needs neither tool. On Debian: apt-get install icnsutils librsvg2-bin
+# Draws the icon of the dialog and the one of the bundle from ico_72_lumaris.svg. Both are kept beside
+# it, so that a build needs no tools for it.
 # usage: packaging/bundle/make-icon.sh
-set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")"
+source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/lib.sh"
 
-for tool in rsvg-convert png2icns; do
-    command -v "$tool" >/dev/null || { echo "error: $tool is missing" >&2; exit 1; }
-done
+install_packages icnsutils librsvg2-bin
+cd packaging/bundle
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -18,4 +16,4 @@ for size in 16 32 48 128 256 512 1024; do
 done
 png2icns lumaris.icns "$work"/*.png >/dev/null
 draw 72 ico_72_lumaris.png
-echo "drawn: lumaris.icns, ico_72_lumaris.png"
+say "drawn: lumaris.icns, ico_72_lumaris.png"
