@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Compiles and links the launcher and lumaris-pack for macOS, for both processors, joins them into
-# universal programs, stages LumarisLauncher.app and looks at what came out. All of it on Linux:
-# built and linked here, run nowhere yet. Everything lies in build-macos.
+# Compiles and links everything for macOS, for both processors, and the tests for one of them. Then it
+# installs the bundle as for a release, over stand-ins for the libraries, joins both into a universal one
+# and looks at what came out. All of it on Linux: built, linked and deployed here, run nowhere yet.
+# Everything lies in build-macos.
 # usage: scripts/macos.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -17,21 +18,30 @@ LIBRARIES=/usr/lib/x86_64-linux-gnu
 APP=$OUT/LumarisLauncher.app
 source scripts/macos/kit.sh
 source scripts/macos/look.sh
+export PATH=$KIT/tools:$PATH # the tools of macOS, under their names there
 
-# build_for PROCESSOR: warnings are errors, as in the development build.
+# build_for PROCESSOR TESTS TARGET...: with the tests if TESTS is ON. Warnings are errors, as in the
+# development build.
 build_for() {
     say "building for $1"
     cmake -S . -B "$OUT/$1" -G Ninja --toolchain cmake/toolchain-macos.cmake \
         -DLUMARIS_MACOS_KIT="$KIT" -DLUMARIS_MACOS_PROCESSOR="$1" -DCMAKE_BUILD_TYPE=Release \
         -DCMAKE_OSX_DEPLOYMENT_TARGET="$MINIMUM" \
-        -DCMAKE_COMPILE_WARNING_AS_ERROR=ON -DBUILD_TESTING=OFF -DLUMARIS_PACKAGE="$PACKAGE" >"$OUT/$1.log" 2>&1 ||
+        -DCMAKE_COMPILE_WARNING_AS_ERROR=ON -DBUILD_TESTING="$2" \
+        -DLUMARIS_PACKAGE="$PACKAGE" >"$OUT/$1.log" 2>&1 ||
         die "$(tail -n 20 "$OUT/$1.log")"
-    cmake --build "$OUT/$1" --target bundle lumaris-pack
+    cmake --build "$OUT/$1" --target "${@:3}"
+}
+
+# install_for PROCESSOR FOLDER: the bundle with every library that it needs
+install_for() {
+    cmake --install "$OUT/$1" --component launcher --prefix "$2" >"$OUT/install.log" 2>&1 ||
+        die "$(grep -m 1 -e error: -e 'there is no' "$OUT/install.log" || tail -n 20 "$OUT/install.log")"
 }
 
 # universal PROGRAM OUTPUT: one file for both processors
 universal() {
-    llvm-lipo-14 -create "$OUT/x86_64/$1" "$OUT/aarch64/$1" -output "$2"
+    lipo -create "$OUT/x86_64/$1" "$OUT/aarch64/$1" -output "$2"
 }
 
 [ "$(uname -sm)" = "Linux x86_64" ] || die "the compiler for macOS runs on Linux on x86_64 only"
@@ -44,16 +54,19 @@ PACKAGE=$ROOT/build/packaging/bundle/package
 mkdir -p "$OUT"
 fetch_compiler
 lay_out_kit
+build_for x86_64 OFF bundle packaging/lumaris-pack/all
+build_for aarch64 ON all # once is enough to see that tests and benchmarks compile and link
 for processor in "${PROCESSORS[@]}"; do
-    build_for "$processor"
+    install_for "$processor" "$OUT/stage-$processor"
 done
-
-rm -rf "$APP"
-cp -R "$OUT/${PROCESSORS[0]}/LumarisLauncher.app" "$APP"
-universal ui-client/launcher/launcher "$APP/Contents/MacOS/launcher"
+packaging/bundle/join.sh "$OUT/stage-x86_64/LumarisLauncher.app" \
+    "$OUT/stage-aarch64/LumarisLauncher.app" "$APP"
+packaging/bundle/check-loads.sh "$APP"
+universal ui-client/launcher/launcher "$OUT/launcher"
 universal packaging/lumaris-pack/lumaris-pack "$OUT/lumaris-pack"
 
-look_at_program "$APP/Contents/MacOS/launcher" @executable_path/../Frameworks QtCore QtGui QtWidgets libarchive libicuuc CoreServices
-look_at_program "$OUT/lumaris-pack" "" QtCore libarchive libzstd
-look_at_bundle "$APP"
-say "build-macos/LumarisLauncher.app: built and linked here, run nowhere yet"
+look_at_program "$OUT/launcher" @executable_path/../Frameworks \
+    QtCore QtGui QtWidgets libarchive.13 libicuuc.74 CoreServices
+look_at_program "$OUT/lumaris-pack" "" QtCore libarchive.13 libicuuc.74 libzstd.1 CoreServices
+look_at_bundle "$APP" "$PACKAGE"
+say "build-macos/LumarisLauncher.app and $(look_at_tests): built, linked and deployed here, run nowhere yet"

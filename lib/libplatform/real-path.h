@@ -11,6 +11,10 @@ constexpr unsigned int kRealPathSize = 4096;
 constexpr int kRealPathMissing = -43;
 constexpr int kRealPathTooLong = -2110;
 
+/// What `RealPathOnce` says of an entry that was there and lost its path between two system calls,
+/// because it was removed or replaced. No status of macOS is positive.
+constexpr int kRealPathVanished = 1;
+
 /// Whether a final symbolic link in a path stands for itself or for its target.
 enum class Leaf { kItself, kTarget };
 
@@ -18,3 +22,7 @@ enum class Leaf { kItself, kTarget };
 /// name in the spelling and letter case in which it is stored. `path` is in the spelling that
 /// system calls need. Returns 0, or a negative status with `real` empty.
 int RealPath(const ustring &path, Leaf leaf, ustring &real);
+
+/// One attempt at that, the part that differs by system: 0, a negative status or
+/// `kRealPathVanished`. `real` counts only with 0.
+int RealPathOnce(const ustring &path, Leaf leaf, ustring &real);

@@ -18,10 +18,6 @@ namespace {
 
 constexpr int kOtherFailure = -36;  // an input or output error
 
-/// An entry may be replaced between the two system calls that find its path. After this many
-/// attempts it counts as missing.
-constexpr int kAttempts = 50;
-
 int StatusOf(int error) {
     if (error == ENOENT) {
         return kRealPathMissing;
@@ -50,7 +46,7 @@ int PathOfDescriptor(int fd, ustring &path) {
         return StatusOf(errno);
     }
     path.assign(text, static_cast<unsigned long>(length));
-    return WasRemoved(path) ? kRealPathMissing : 0;
+    return WasRemoved(path) ? kRealPathVanished : 0;
 }
 
 /// Whether a volume may ignore letter case or spelling: the kernel then reports the name by which
@@ -86,24 +82,18 @@ void UseStoredNames(ustring &path) {
 
 }  // namespace
 
-int RealPath(const ustring &path, Leaf leaf, ustring &real) {
+int RealPathOnce(const ustring &path, Leaf leaf, ustring &real) {
     // O_PATH needs no permission on the entry itself.
     const int flags = O_PATH | O_CLOEXEC | (leaf == Leaf::kItself ? O_NOFOLLOW : 0);
-    struct statfs volume = {};
-    int status = kRealPathMissing;
-    for (int attempt = 0; attempt < kAttempts && status == kRealPathMissing; ++attempt) {
-        const int fd = open(path.c_str(), flags);
-        if (fd < 0) {
-            status = StatusOf(errno);
-            break;
-        }
-        status = PathOfDescriptor(fd, real);
-        fstatfs(fd, &volume);
-        close(fd);
+    const int fd = open(path.c_str(), flags);
+    if (fd < 0) {
+        return StatusOf(errno);
     }
-    if (status != 0) {
-        real.clear();
-    } else if (MayFoldNames(volume)) {
+    struct statfs volume = {};
+    const int status = PathOfDescriptor(fd, real);
+    fstatfs(fd, &volume);
+    close(fd);
+    if (status == 0 && MayFoldNames(volume)) {
         UseStoredNames(real);
     }
     return status;

@@ -15,7 +15,7 @@ const UInt8 *Bytes(const ustring &text) {
 
 }  // namespace
 
-int RealPath(const ustring &path, Leaf leaf, ustring &real) {
+int RealPathOnce(const ustring &path, Leaf leaf, ustring &real) {
     FSRef ref;
     // An entry itself is asked for in the composed form, to which its real path is compared.
     OSStatus status =
@@ -23,10 +23,11 @@ int RealPath(const ustring &path, Leaf leaf, ustring &real) {
             ? FSPathMakeRefWithOptions(Bytes(path.normalize(ustring::NFC)),
                                        kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr)
             : FSPathMakeRef(Bytes(path), &ref, nullptr);
-    UInt8 buffer[kRealPathSize] = {};
-    if (status == noErr) {
-        status = FSRefMakePath(&ref, buffer, kRealPathSize);
+    if (status != noErr) {
+        return static_cast<int>(status);
     }
-    real = status == noErr ? reinterpret_cast<const char *>(buffer) : "";
-    return static_cast<int>(status);
+    UInt8 buffer[kRealPathSize] = {};
+    status = FSRefMakePath(&ref, buffer, kRealPathSize);
+    real = reinterpret_cast<const char *>(buffer);
+    return status == fnfErr ? kRealPathVanished : static_cast<int>(status);
 }

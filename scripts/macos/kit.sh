@@ -34,15 +34,15 @@ WRAPPER
     chmod +x "$KIT/bin/$name"
 }
 
-# stub INSTALL_NAME FILE: a text that stands for a library of macOS when programs are linked; its
-# symbols come from standard input, one a line.
+# stub FILE INSTALL_NAME: a text that stands for a library when programs are linked; its symbols come
+# from standard input, one a line.
 stub() {
     local targets="[ x86_64-macos, arm64-macos ]"
     {
         printf -- '--- !tapi-tbd\ntbd-version: 4\ntargets: %s\n' "$targets"
-        printf "install-name: '%s'\nexports:\n  - targets: %s\n" "$1" "$targets"
+        printf "install-name: '%s'\nexports:\n  - targets: %s\n" "$2" "$targets"
         printf '    symbols: [ %s ]\n...\n' "$(sed "s/.*/'_&'/" | sort -u | paste -sd,)"
-    } > "$2"
+    } > "$1"
 }
 
 # symbols LIBRARY: those of this machine's library
@@ -50,26 +50,78 @@ symbols() {
     nm -D --defined-only --format=just-symbols "$1" | sed 's/@.*//'
 }
 
+# stand_in PROCESSORS FILE INSTALL_NAME OTHER_FILE...: a real library with nothing in it but its name
+# and the names of others, which the deployment of the bundle is tried on
+stand_in() {
+    local processors=$1 file=$2 name=$3 processor parts=() others
+    shift 3
+    mkdir -p "$(dirname "$file")"
+    for processor in $processors; do
+        others=("${@/%/.$processor}")
+        "$KIT/bin/c++-$processor" -x c -shared -install_name "$name" \
+            -Wl,-headerpad_max_install_names -Wl,-rpath,@loader_path/../../lib \
+            -o "$file.$processor" scripts/macos/nothing.c -x none "${others[@]}"
+        parts+=("$file.$processor")
+    done
+    lipo -create "${parts[@]}" -output "$file"
+}
+
+# lay_out_libraries PROCESSOR FOLDER: ICU, libarchive and Zstandard named as Homebrew names them,
+# with whole paths and with @loader_path
+lay_out_libraries() {
+    local icu=$2/icu4c/lib archive=$2/libarchive/lib zstd=$2/zstd/lib
+    stand_in "$1" "$icu/libicudata.74.dylib" @loader_path/libicudata.74.dylib
+    stand_in "$1" "$icu/libicuuc.74.dylib" "$icu/libicuuc.74.dylib" "$icu/libicudata.74.dylib"
+    stand_in "$1" "$zstd/libzstd.1.dylib" "$zstd/libzstd.1.dylib"
+    stand_in "$1" "$archive/libarchive.13.dylib" "$archive/libarchive.13.dylib" "$zstd/libzstd.1.dylib"
+    symbols "$LIBRARIES/libicuuc.so" | stub "$icu/libicuuc.tbd" "$icu/libicuuc.74.dylib"
+    symbols "$LIBRARIES/libzstd.so" | stub "$zstd/libzstd.tbd" "$zstd/libzstd.1.dylib"
+    symbols "$LIBRARIES/libarchive.so" | stub "$archive/libarchive.tbd" "$archive/libarchive.13.dylib"
+}
+
+# lay_out_framework PROCESSORS FOLDER NAMES MODULE OTHER_FILE...
+lay_out_framework() {
+    local file=Qt$4.framework/Versions/5/Qt$4
+    stand_in "$1" "$2/$file" "$3/$file" "${@:5}"
+    symbols "$LIBRARIES/libQt5$4.so.5" | stub "$2/$file.tbd" "$3/$file"
+}
+
+# lay_out_qt PROCESSORS FOLDER NAMES: frameworks and plug-ins, the frameworks named NAMES/...
+lay_out_qt() {
+    local module plugin others=()
+    # Printing is what a plug-in needs and the launcher does not.
+    for module in Core Gui Widgets PrintSupport; do
+        lay_out_framework "$1" "$2/lib" "$3" $module "${others[@]}"
+        others+=("$2/lib/Qt$module.framework/Versions/5/Qt$module")
+    done
+    for plugin in platforms/libqcocoa platforms/libqoffscreen styles/libqmacstyle; do
+        stand_in "$1" "$2/plugins/$plugin.dylib" "$(basename "$plugin")" "${others[@]}"
+    done
+    lay_out_framework "$1" "$2/lib" "$3" Test "${others[0]}"
+}
+
 lay_out_kit() {
-    local processor module
+    local processor tool
     rm -rf "$KIT"
-    mkdir -p "$KIT/bin" "$KIT/include" "$KIT/lib"
+    mkdir -p "$KIT"/{bin,tools,include,lib}
     for processor in "${PROCESSORS[@]}"; do
         wrapper "c++-$processor" "c++ -target $processor-macos.$MINIMUM -F$KIT/lib"
     done
     wrapper ar ar
     wrapper ranlib ranlib
+    for tool in otool install-name-tool lipo; do
+        ln -s "$(command -v "llvm-$tool-14")" "$KIT/tools/${tool//-/_}"
+    done
     ln -s "/usr/include/x86_64-linux-gnu/qt5" "$KIT/include/qt5"
     ln -s /usr/include/{archive.h,archive_entry.h,unicode,zstd.h,zstd_errors.h} "$KIT/include/"
-    for module in Core Gui Widgets; do
-        symbols "$LIBRARIES/libQt5$module.so.5" |
-            stub "@rpath/Qt$module.framework/Versions/5/Qt$module" "$KIT/lib/Qt$module.tbd"
+    for processor in "${PROCESSORS[@]}"; do
+        lay_out_libraries "$processor" "$KIT/$processor"
     done
-    for module in archive icuuc zstd; do
-        symbols "$LIBRARIES/lib$module.so" | stub "@rpath/lib$module.dylib" "$KIT/lib/lib$module.tbd"
-    done
+    # Qt for Intel as its makers build and name it, for Apple silicon as Homebrew does.
+    lay_out_qt "${PROCESSORS[*]}" "$KIT/x86_64/qt" @rpath
+    lay_out_qt aarch64 "$KIT/aarch64/qt" "$KIT/aarch64/qt/lib"
     mkdir -p "$KIT/lib/CoreServices.framework"
     printf '%s\n' FSPathMakeRef FSPathMakeRefWithOptions FSRefMakePath |
-        stub /System/Library/Frameworks/CoreServices.framework/Versions/A/CoreServices \
-            "$KIT/lib/CoreServices.framework/CoreServices.tbd"
+        stub "$KIT/lib/CoreServices.framework/CoreServices.tbd" \
+            /System/Library/Frameworks/CoreServices.framework/Versions/A/CoreServices
 }

@@ -10,10 +10,10 @@ look_at_program() {
     local file=$1 architecture
     shift
     for architecture in "${ARCHITECTURES[@]}"; do
-        llvm-lipo-14 "$file" -verify_arch "$architecture" || die "$file has no part for $architecture"
+        lipo "$file" -verify_arch "$architecture" || die "$file has no part for $architecture"
         look_at_part "$file" "$architecture" "$@"
     done
-    say "$(basename "$file"): $(llvm-lipo-14 -archs "$file"), macOS $MINIMUM or later; links ${*:2}"
+    say "$(basename "$file"): $(lipo -archs "$file" | xargs), macOS $MINIMUM or later; links ${*:2}"
 }
 
 look_at_part() {
@@ -41,18 +41,41 @@ look_at_part() {
         die "$file ($architecture) asks for a symbol of Linux"
 }
 
+# look_at_bundle BUNDLE PACKAGE: complete, for both processors, and with the version of the package
 look_at_bundle() {
-    local file
+    local file plist=$OUT/Info.plist
     for file in MacOS/launcher Info.plist Resources/INFO Resources/package/lumaris.wpk \
-        Resources/images/ico_72_lumaris.png; do
+        Resources/images/ico_72_lumaris.png Resources/lumaris.icns Resources/copyright \
+        Frameworks/plugins/{platforms/libqcocoa,styles/libqmacstyle}.dylib; do
         [ -s "$1/Contents/$file" ] || die "$1 lacks Contents/$file"
     done
+    while IFS= read -r file; do
+        case $(lipo -archs "$file" 2>/dev/null | xargs) in
+        "" | "${ARCHITECTURES[*]}") ;;
+        *) die "$file is for one processor only" ;;
+        esac
+    done < <(find "$1/Contents/MacOS" "$1/Contents/Frameworks" -type f)
     # It ends with 0 whatever it reads: what counts is that something comes out.
-    rm -f "$OUT/Info.plist"
-    plistutil -i "$1/Contents/Info.plist" -o "$OUT/Info.plist" 2>/dev/null || true
-    grep -qa CFBundleExecutable "$OUT/Info.plist" 2>/dev/null ||
+    rm -f "$plist"
+    plistutil -i "$1/Contents/Info.plist" -o "$plist" 2>/dev/null || true
+    grep -qa CFBundleExecutable "$plist" 2>/dev/null ||
         die "$1/Contents/Info.plist is no valid property list"
-    [ "$(sed -n '/LSMinimumSystemVersion/{n;s/[^0-9.]*//g;p}' "$1/Contents/Info.plist")" = "$MINIMUM" ] ||
+    [ "$(value_of LSMinimumSystemVersion "$1")" = "$MINIMUM" ] ||
         die "$1/Contents/Info.plist names another oldest system than the programs"
-    say "$(basename "$1"): complete, but for the toolkit's frameworks and plug-ins; Info.plist is valid"
+    grep -q "^build_version=$(value_of CFBundleVersion "$1")\$" "$2/INFO" ||
+        die "$1/Contents/Info.plist names another build than the package"
+    say "$(basename "$1"): complete; Info.plist is valid and names the version of the package"
+}
+
+# look_at_tests: how many test programs there are
+look_at_tests() {
+    local programs
+    programs=$(find "$OUT/aarch64/tests" -path '*.app/Contents/MacOS/*' -type f | wc -l)
+    [ "$programs" -gt 0 ] || die "no test program was built"
+    echo "$programs test programs"
+}
+
+# value_of KEY BUNDLE: the number that Info.plist gives
+value_of() {
+    sed -n "/<key>$1</{n;s/[^0-9.]*//g;p}" "$2/Contents/Info.plist"
 }

@@ -51,6 +51,32 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     EXPECT_EQ(Tree("disk"), "late/ late/file=4 src/ src/link->file");
 }
 
+// On a Mac names are valid UTF-8 in any letter case, links are shorter, and a list is read ahead.
+TEST_F(VolumeTest, TakesWhatAMacRefuses) {
+    for (const char *file : {"bad/\xFE", "bad/\xFF", "e\u0301"}) {
+        WriteFile(file, "text");
+    }
+    FILE_INFO info;
+    EXPECT_EQ(GetFileInfo("bad/\xFF", info), -1);
+    EXPECT_EQ(info.exists, 1);
+    EXPECT_TRUE(Logged("FSPathMakeRef: -43\n"));
+    EXPECT_EQ(FSRemove("bad", true), -3);
+    EXPECT_EQ(Tree("bad"), "\xFE=text \xFF=text");
+    EXPECT_FALSE(IsFileExist("\u00C9", false));
+    // It opens and then refuses what is written.
+    EXPECT_EQ(FSCopy("e\u0301", "/proc/self/coredump_filter", false), -1);
+
+    ustring text;
+    EXPECT_EQ(FSCreateSymbolicLink(std::string(1024, 'x'), "long"), 0);
+    EXPECT_EQ(FSReadSymbolicLink("long", text), -1);
+    DIR_HANDLE handle;
+    DIR_ENTRY entry;
+    EXPECT_EQ(FSOpenDir("bad", 0, handle), 0);
+    close(dirfd(handle.dir));
+    EXPECT_EQ(FSReadDir(handle, entry), -1);
+    FSCloseDir(handle);
+}
+
 TEST_F(VolumeTest, FollowsTheRulesOfAMac) {
     const char *const server = "exec setpriv --pdeathsig KILL '" MAC_VOLUME "' disk v";
     m_server.reset(popen(server, "r"));

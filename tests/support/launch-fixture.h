@@ -106,8 +106,7 @@ protected:
     bool Said(const std::string &text) const { return Err().find(text) != text.npos; }
     /// What follows "pid=", or 0.
     pid_t ClientPid() const { return atoi(ReadFile(lumaris / "ui.pid").erase(0, 4).c_str()); }
-    /// Ends every program of this place. /proc, where there is one, also shows a client that has
-    /// not written its pid file yet.
+    /// Ends every program of this place, a client that has not written its pid file yet included.
     void StopClient() const {
         std::error_code none;
         for (const auto &process : fs::directory_iterator("/proc", none)) {

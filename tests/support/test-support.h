@@ -101,7 +101,7 @@ protected:
         alarm(kSecondsPerStep);
         umask(022);
         std::string name = (fs::temp_directory_path() / "lumaris-test-XXXXXX").string();
-        root = mkdtemp(name.data());
+        root = fs::canonical(mkdtemp(name.data()));  // the temporary folder may lie behind a link
         fs::current_path(root);
         UseHome("home");
         WriteFile("levels",

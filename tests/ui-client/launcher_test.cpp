@@ -2,6 +2,8 @@
 #include "launcher.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QLabel>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -9,6 +11,7 @@
 #include <QThread>
 #include <atomic>
 #include <clocale>
+#include <cmath>
 
 #include "lumaris-service.h"
 #include "notify-adapter.h"
@@ -108,6 +111,30 @@ TEST_F(LauncherTest, OnlyTheSystemClosesTheDialog) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
+/// As the eye sees it, from 0 for black to 1 for white.
+double Luminance(const QColor &color) {
+    const auto linear = [](double part) { return std::pow((part + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+TEST_F(LauncherTest, IsReadableInADarkTheme) {
+    QApplication::setPalette(QColor(50, 50, 50));  // the other colours follow from the window's
+    Launcher launcher;
+    auto *dialog = QApplication::topLevelWidgets().at(0);
+    dialog->show();
+    const QImage label =
+        dialog->grab(dialog->findChild<QLabel *>()->geometry()).toImage();  // and what lies below
+    QApplication::setPalette(QPalette());
+    double darkest = 1, lightest = 0;
+    for (int i = 0; i < label.width() * label.height(); ++i) {
+        const QColor color = label.pixelColor(i % label.width(), i / label.width());
+        darkest = std::min(darkest, Luminance(color));
+        lightest = std::max(lightest, Luminance(color));
+    }
+    EXPECT_GE((lightest + 0.05) / (darkest + 0.05), 7);
+}
+
 }  // namespace
 
 Service *NewService() {
@@ -118,7 +145,9 @@ Service *NewService() {
 int main(int argc, char **argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
-    setlocale(LC_ALL, "C.UTF-8");
+    if (setlocale(LC_ALL, "C.UTF-8") == nullptr) {
+        setlocale(LC_ALL, "en_US.UTF-8");  // as macOS has it
+    }
     StrTable::InitStrTable();
     return RUN_ALL_TESTS();
 }

@@ -3,6 +3,8 @@
 
 #include <QFont>
 #include <QIcon>
+#include <QLabel>
+#include <QPalette>
 
 #include "install-paths.h"
 #include "qt-text.h"
@@ -26,6 +28,12 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     setStyleSheet(
         QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n"
                        "  vertical-align: middle } "));
+    // The background is light in every theme, and the text of a dark theme would be, too. Below the
+    // style sheet a palette of the dialog itself has no effect.
+    auto *label = findChild<QLabel *>();
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, Qt::black);
+    label->setPalette(palette);
 }
 
 ProcessingProgressDialog::~ProcessingProgressDialog() = default;
