@@ -110,16 +110,6 @@ TEST_F(LaunchTest, StaleEntriesInTheWay) {
     }
 }
 
-TEST_F(LaunchTest, OnlyOneLauncherWorks) {
-    Install();
-    const pid_t first = StartToWait();
-    EXPECT_EQ(0, Launch());
-    EXPECT_TRUE(HasLine("): app has already launched, return\n")) << LauncherLog();
-    LetGo();
-    EXPECT_EQ(0, Finish(first));
-    ExpectInstalled("120");  // the pipe held no package
-}
-
 TEST_F(LaunchTest, ALockThatIsNotOursStopsNobody) {
     Install();
     ExpectLaunch("121");
