@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "archive-reader.h"
 #include "log-macros.h"
 #include "notify-adapter.h"
 #include "str-table.h"
@@ -16,20 +17,14 @@ static const ustring LOG_COMPONENT("extractor_debug");
 
 namespace {
 
-const size_t kBlockSize = 10240;
-
 /// An existing file gives way, ".." is refused, macOS metadata is restored. Owner, times and the
 /// rest are not: the files belong to the user and count as installed now.
 const int kDiskOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
-struct FreeReader {
-    void operator()(struct archive *a) const { archive_read_free(a); }
-};
 struct FreeWriter {
     void operator()(struct archive *a) const { archive_write_free(a); }
 };
-using Reader = std::unique_ptr<struct archive, FreeReader>;
 using Writer = std::unique_ptr<struct archive, FreeWriter>;
 
 /// libarchive gives no text where the failure was found by another handle.
@@ -41,21 +36,14 @@ const char *ErrorText(struct archive *a, struct archive *other = nullptr) {
     return text != nullptr ? text : "unknown error";
 }
 
-/// archive_read_support_filter_all is the current name of archive_read_support_compression_all.
-int OpenReader(struct archive *reader, const ustring &path) {
-    archive_read_support_filter_all(reader);
-    archive_read_support_format_all(reader);
-    return archive_read_open_filename(reader, path.c_str_utf8(), kBlockSize);
-}
-
 /// A reader at the first entry of the archive at `path`; null after a failure.
-Reader OpenForListing(const ustring &path) {
-    Reader reader(archive_read_new());
+ArchiveReader OpenForListing(const ustring &path) {
+    ArchiveReader reader(archive_read_new());
     if (!reader) {
         MSG_ERROR("Allocate archive failed\n");
         return nullptr;
     }
-    if (OpenReader(reader.get(), path) != ARCHIVE_OK) {
+    if (OpenArchive(reader.get(), path.c_str_utf8()) != ARCHIVE_OK) {
         MSG_ERROR("archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
         return nullptr;
     }
@@ -117,14 +105,14 @@ int Extractor::Extract() {
         return -1;
     }
     // The writer is freed first: it sets the final permissions of folders then.
-    const Reader reader(archive_read_new());
+    const ArchiveReader reader(archive_read_new());
     const Writer writer(archive_write_disk_new());
     if (!reader || !writer) {
         MSG_ERROR("Allocate extractor failed\n");
         return -1;
     }
     archive_write_disk_set_options(writer.get(), kDiskOptions);
-    if (OpenReader(reader.get(), m_src_path) != ARCHIVE_OK) {
+    if (OpenArchive(reader.get(), m_src_path.c_str_utf8()) != ARCHIVE_OK) {
         MSG_ERROR("Failed to read file '%s' ('%s')\n", m_src_path.c_str(), ErrorText(reader.get()));
         return -1;
     }
@@ -136,7 +124,7 @@ int Extractor::Count() {
         MSG_ERROR("Invalid argument\n");
         return -1;
     }
-    const Reader reader = OpenForListing(m_src_path);
+    const ArchiveReader reader = OpenForListing(m_src_path);
     if (!reader) {
         return -1;
     }
@@ -154,7 +142,7 @@ int Extractor::List() {
         MSG_ERROR("Invalid argument\n");
         return -1;
     }
-    const Reader reader = OpenForListing(m_src_path);
+    const ArchiveReader reader = OpenForListing(m_src_path);
     if (!reader) {
         return -1;
     }
