@@ -38,8 +38,7 @@ def pack(name: str, client: Path) -> Path:
     """The folder with the package and the INFO file of a client folder."""
     out = WORK / f"{name}-package"
     tool = BUILD / "packaging/lumaris-pack/lumaris-pack"
-    version = ["--major", "2", "--minor", "5", "--build", "120"]
-    subprocess.run([tool, *version, client, out], check=True)
+    subprocess.run([tool, client, out], check=True, stdout=subprocess.DEVNULL)
     return out
 
 
@@ -57,6 +56,7 @@ def bare_client(name: str) -> Path:
     for folder in ("MacOS", "Resources", "more"):
         (contents / folder).mkdir(parents=True)
     shutil.copy(BENCH / "stamp-client", contents / "MacOS/lumaris-backup-ui")
+    (contents / "Info.plist").write_text('<plist version="1.0"><dict/></plist>\n')
     (contents / "Resources/INFO").write_text(
         "[Version]\nmajor_version=2\nminor_version=5\nbuild_version=120\nicon_overlay_version=1\n"
     )

@@ -10,7 +10,7 @@ install_packages "${PACKAGES[@]}" git clang-format-16 clang-tidy black pyflakes3
 
 mapfile -t sources < <(git ls-files '*.cpp' '*.h')
 mapfile -t python < <(git ls-files '*.py')
-mapfile -t shell < <(git grep -l -I -e '^#!/usr/bin/env bash' -e '^# shellcheck shell=bash')
+mapfile -t shell < <(git grep -l -I -e '^#!/usr/bin/env bash' -e '^#!/bin/sh' -e '^# shellcheck shell=bash')
 if [ "${1:-}" = --fix ]; then
     clang-format-16 -i "${sources[@]}"
     black -q -l 100 "${python[@]}"

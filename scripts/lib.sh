@@ -11,7 +11,7 @@ cd "$ROOT"
 # shellcheck disable=SC2034 # for the scripts that source this file
 PACKAGES=(
     g++ cmake ninja-build
-    qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libzstd-dev libgtest-dev
+    qtbase5-dev qttools5-dev-tools libarchive-dev libicu-dev libgtest-dev
     libbenchmark-dev libspdlog-dev python3-fusepy
     dpkg-dev file zstd xvfb openbox xdotool x11-utils imagemagick time procps strace python3
     fonts-liberation fonts-noto-cjk

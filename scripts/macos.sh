@@ -63,10 +63,10 @@ packaging/bundle/join.sh "$OUT/stage-x86_64/LumarisLauncher.app" \
     "$OUT/stage-aarch64/LumarisLauncher.app" "$APP"
 packaging/bundle/check-loads.sh "$APP"
 universal ui-client/launcher/launcher "$OUT/launcher"
-universal packaging/lumaris-pack/lumaris-pack "$OUT/lumaris-pack"
+universal packaging/lumaris-pack/lumaris-verify "$OUT/lumaris-verify"
 
 look_at_program "$OUT/launcher" @executable_path/../Frameworks \
     QtCore QtGui QtWidgets libarchive.13 libicuuc.74 CoreServices
-look_at_program "$OUT/lumaris-pack" "" QtCore libarchive.13 libicuuc.74 libzstd.1 CoreServices
+look_at_program "$OUT/lumaris-verify" "" QtCore libarchive.13 libicuuc.74 CoreServices
 look_at_bundle "$APP" "$PACKAGE"
 say "build-macos/LumarisLauncher.app and $(look_at_tests): built, linked and deployed here, run nowhere yet"

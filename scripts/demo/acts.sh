@@ -128,7 +128,8 @@ act_7() {
     printf '[Version]\nmajor_version=2\nminor_version=5\nbuild_version=130\nicon_overlay_version=1\n' \
         > "$client/Contents/Resources/INFO"
     (cd "$files" && seq 100000 | split -a 5 -d -l 1 - entry-)
-    "$PACK" --level 1 --major 2 --minor 5 --build 130 "$client" "$WORK/package-many"
+    echo '<plist version="1.0"><dict/></plist>' > "$client/Contents/Info.plist"
+    "$PACK" "$client" "$WORK/package-many" >/dev/null
     ship "$WORK/package-many"
 
     watched "$DEMO/dialog-trace-many.txt" "$WORK/none.xwd" launch

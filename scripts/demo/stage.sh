@@ -33,8 +33,7 @@ ship() {
 make_package() {
     [ -d "$WORK/package-$1" ] && return
     "$ROOT/packaging/demo/stage-client.sh" "$1" "$CLIENT" "$WORK/client-$1/Lumaris.app" >/dev/null
-    "$PACK" --level 1 --major 2 --minor 5 --build "$1" "$WORK/client-$1/Lumaris.app" \
-        "$WORK/package-$1"
+    "$PACK" "$WORK/client-$1/Lumaris.app" "$WORK/package-$1" >/dev/null
 }
 
 client_folder() {

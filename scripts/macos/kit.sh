@@ -75,7 +75,6 @@ lay_out_libraries() {
     stand_in "$1" "$zstd/libzstd.1.dylib" "$zstd/libzstd.1.dylib"
     stand_in "$1" "$archive/libarchive.13.dylib" "$archive/libarchive.13.dylib" "$zstd/libzstd.1.dylib"
     symbols "$LIBRARIES/libicuuc.so" | stub "$icu/libicuuc.tbd" "$icu/libicuuc.74.dylib"
-    symbols "$LIBRARIES/libzstd.so" | stub "$zstd/libzstd.tbd" "$zstd/libzstd.1.dylib"
     symbols "$LIBRARIES/libarchive.so" | stub "$archive/libarchive.tbd" "$archive/libarchive.13.dylib"
 }
 
@@ -113,7 +112,7 @@ lay_out_kit() {
         ln -s "$(command -v "llvm-$tool-14")" "$KIT/tools/${tool//-/_}"
     done
     ln -s "/usr/include/x86_64-linux-gnu/qt5" "$KIT/include/qt5"
-    ln -s /usr/include/{archive.h,archive_entry.h,unicode,zstd.h,zstd_errors.h} "$KIT/include/"
+    ln -s /usr/include/{archive.h,archive_entry.h,unicode} "$KIT/include/"
     for processor in "${PROCESSORS[@]}"; do
         lay_out_libraries "$processor" "$KIT/$processor"
     done

@@ -12,4 +12,5 @@ mkdir -p "$contents/MacOS" "$contents/Resources"
 cp "$build/samples/client/lumaris-backup-ui" "$contents/MacOS/"
 printf '[Version]\nmajor_version=2\nminor_version=5\nbuild_version=120\nicon_overlay_version=1\n' \
     > "$contents/Resources/INFO"
-"$build/packaging/lumaris-pack/lumaris-pack" --major 2 --minor 5 --build 120 "$work/Lumaris.app" "$out"
+echo '<plist version="1.0"><dict/></plist>' > "$contents/Info.plist"
+"$build/packaging/lumaris-pack/lumaris-pack" "$work/Lumaris.app" "$out"

@@ -21,6 +21,7 @@ def folded(name: str) -> str:
 
 class MacVolume(fusepy.Operations):
     chmod, mkdir, open, rmdir, unlink = os.chmod, os.mkdir, os.open, os.rmdir, os.unlink
+    readlink = os.readlink
 
     def __call__(self, operation: str, path: str, *arguments: Any) -> Any:
         return getattr(self, operation)(self.find(path), *arguments)
@@ -45,6 +46,12 @@ class MacVolume(fusepy.Operations):
 
     def rename(self, source: str, target: str) -> None:
         os.rename(source, self.find(target))
+
+    def symlink(self, path: str, target: str) -> None:
+        os.symlink(target, path)
+
+    def truncate(self, path: str, length: int, file: Any = None) -> None:
+        os.truncate(path, length)
 
     def create(self, path: str, mode: int) -> int:
         return os.open(path, os.O_RDWR | os.O_CREAT, mode)

@@ -1,30 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <sys/mount.h>
-
 #include <QCoreApplication>
-#include <cstdio>
-#include <memory>
 
 #include "file-op.h"
 #include "mac/mac-service.h"
-#include "test-support.h"
+#include "volume-fixture.h"
 
 namespace {
-
-/// File operations and the service on a volume that the test mounts, `v`.
-class VolumeTest : public HomeTest {
-protected:
-    VolumeTest() {
-        fs::create_directory("disk");
-        UseHome("v");
-    }
-    ~VolumeTest() override {
-        umount2(home.c_str(), MNT_FORCE | MNT_DETACH);  // ends the server, too
-    }
-    static ustring OnVolume(const char *name) { return (fs::canonical("v") / name).c_str(); }
-
-    std::unique_ptr<FILE, int (*)(FILE *)> m_server{nullptr, pclose};
-};
 
 TEST_F(VolumeTest, MovesToAnotherVolume) {
     // Each file takes a block: there is room for three.
@@ -78,9 +59,7 @@ TEST_F(VolumeTest, TakesWhatAMacRefuses) {
 }
 
 TEST_F(VolumeTest, FollowsTheRulesOfAMac) {
-    const char *const server = "exec setpriv --pdeathsig KILL '" MAC_VOLUME "' disk v";
-    m_server.reset(popen(server, "r"));
-    if (!m_server || std::fgetc(m_server.get()) == EOF) {
+    if (!MountMacVolume()) {
         GTEST_SKIP() << "this user cannot mount a volume with FUSE";
     }
     // Twins as on a volume of this type that has both.

@@ -20,7 +20,7 @@ mkdir "$work"/{home,tmp}
 dpkg-deb -x "$work"/out/*.deb "$work/root"
 readonly installed=$work/root/opt/lumaris contents=$work/root/opt/lumaris/LumarisLauncher.app/Contents
 grep -q 'GNU LESSER GENERAL PUBLIC LICENSE' "$work/root/usr/share/doc/lumaris-launcher/copyright"
-"$installed/bin/lumaris-pack" --verify "$contents/Resources/package/lumaris.wpk"
+"$installed/bin/lumaris-verify" "$contents/Resources/package/lumaris.wpk"
 env -u DISPLAY HOME="$work/home" TMPDIR="$work/tmp" XDG_RUNTIME_DIR="$work/tmp" LC_ALL=C.UTF-8 \
     QT_QPA_PLATFORM=offscreen "$contents/MacOS/launcher"
 diff -r --no-dereference "$build/packaging/bundle/client/Lumaris.app" \

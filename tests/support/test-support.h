@@ -73,9 +73,9 @@ inline std::string Tree(const fs::path &folder) {
     std::set<std::string> lines;
     std::error_code none;
     for (const auto &entry : fs::recursive_directory_iterator(folder, none)) {
-        const bool link = entry.is_symlink(), directory = entry.is_directory() && !link;
+        const bool link = entry.is_symlink(), directory = !link && entry.is_directory();
         std::string what = directory ? "/" : link ? "->" + fs::read_symlink(entry).string() : "!";
-        if (entry.is_regular_file() && !link) {
+        if (!link && entry.is_regular_file()) {
             const std::string content = ReadFile(entry);
             const std::string hash = "#" + std::to_string(std::hash<std::string>()(content));
             what = "=" + (content.size() < 100 ? content : hash);

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MIT
+#include "bundle-rules.h"
+
+#include <unicode/normalizer2.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+#include <vector>
+
+#include "ustring.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The Mac's limits, in bytes and with the NUL at the end of a path.
+constexpr std::size_t kMaxPart = 255;
+constexpr std::size_t kMaxPath = 1024;
+constexpr std::size_t kMaxTarget = 1023;
+constexpr int kMaxLinks = 32;
+// What stands before a name once it is installed and moved aside; 64 bytes are for the home folder.
+constexpr std::size_t kRoomForPlace = 64 + sizeof("/.LumarisBackup/Lumaris.app_tmp9/");
+
+// The launcher makes a folder with these permissions when the folder's own entry is not there yet,
+// and does not change them later.
+constexpr mode_t kFolderMode = S_IFDIR | 0755;
+constexpr mode_t kUsualUmask = 022;
+
+using Targets = std::map<std::string, std::string>;
+
+// The form in which a Mac compares names.
+std::string Folded(const std::string &name) {
+    UErrorCode status = U_ZERO_ERROR;  // cannot fail: the data are built in
+    const icu::Normalizer2 *const form = icu::Normalizer2::getNFDInstance(status);
+    icu::UnicodeString text = form->normalize(icu::UnicodeString::fromUTF8(name), status);
+    text = form->normalize(text.foldCase(), status);
+    std::string folded;
+    return text.toUTF8String(folded);
+}
+
+bool IsUtf8(const std::string &text) {
+    return ustring::is_valid(text);
+}
+
+// The parts of a name; the launcher appends it to its own path, where needless "/" and "." vanish.
+std::vector<std::string> Parts(const std::string &name) {
+    std::vector<std::string> parts;
+    for (const fs::path &part : fs::path(name)) {
+        if (!part.empty() && part != "/" && part != "." && part != "//") {
+            parts.push_back(part.native());
+        }
+    }
+    return parts;
+}
+
+std::string Joined(const std::vector<std::string> &parts) {
+    std::string name;
+    for (const std::string &part : parts) {
+        name += (name.empty() ? "" : "/") + part;
+    }
+    return name;
+}
+
+// Why an entry may not have this name; empty when it may.
+std::string NameProblem(const std::string &name, const std::vector<std::string> &parts) {
+    if (!IsUtf8(name)) {
+        return "is not valid UTF-8";
+    }
+    if (name.size() + kRoomForPlace > kMaxPath) {
+        return "is longer than a path can be on a Mac";
+    }
+    for (const std::string &part : parts) {
+        if (part == "..") {
+            return "has a '..' part";
+        }
+        if (part.size() > kMaxPart) {
+            return "has a part longer than 255 bytes";
+        }
+    }
+    // The archive library on macOS takes such a file for attributes of whatever entry follows it.
+    if (!parts.empty() && parts.back().compare(0, 2, "._") == 0) {
+        return "is an AppleDouble file";
+    }
+    return {};
+}
+
+// The same for its type and permissions.
+std::string ModeProblem(mode_t mode) {
+    if (!S_ISREG(mode) && !S_ISDIR(mode) && !S_ISLNK(mode)) {
+        return "is neither a file, a folder nor a symbolic link";
+    }
+    if (!S_ISLNK(mode) && (mode & (S_ISUID | S_ISGID | S_ISVTX)) != 0) {
+        return "is set-uid, set-gid or sticky";
+    }
+    if (S_ISDIR(mode) && (mode & S_IRWXU) != S_IRWXU) {
+        return "is a folder that its owner cannot read, write and search";
+    }
+    return {};
+}
+
+// Goes on from `folder` to `path`, through the links on the way; tells why it does not arrive.
+std::string Follow(const Targets &targets, const fs::path &path, fs::path &folder, int &followed) {
+    for (const fs::path &step : path) {
+        if (step == ".." && folder.empty()) {
+            return "points out of the bundle";
+        }
+        if (step == "..") {
+            folder = folder.parent_path();
+            continue;
+        }
+        if (step.empty() || step == ".") {
+            continue;
+        }
+        const auto link = targets.find((folder / step).native());
+        if (link == targets.end()) {
+            folder /= step;
+            continue;
+        }
+        if (++followed > kMaxLinks) {
+            return "never arrives";
+        }
+        if (link->second.front() == '/') {
+            return "points out of the bundle";
+        }
+        std::string problem = Follow(targets, link->second, folder, followed);
+        if (!problem.empty()) {
+            return problem;
+        }
+    }
+    return {};
+}
+
+std::string TargetProblem(const char *target) {
+    if (target == nullptr) {
+        return "points to a name that cannot be read in every locale";
+    }
+    const std::string text = target;
+    if (!IsUtf8(text)) {
+        return "points to a name that is not valid UTF-8";
+    }
+    if (text.size() > kMaxTarget) {
+        return "points to a name longer than 1023 bytes";
+    }
+    return text.empty() || text.front() == '/' ? "points to an absolute or empty name" : "";
+}
+
+}  // namespace
+
+std::string Printable(const std::string &text) {
+    constexpr char digits[] = "0123456789abcdef";
+    std::size_t end = std::min<std::size_t>(text.size(), 300);
+    while (end < text.size() && (text[end] & 0xc0) == 0x80) {
+        --end;  // within a character
+    }
+    const bool utf8 = IsUtf8(text);
+    std::string line;
+    for (const char c : text.substr(0, end)) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20 || byte == 0x7f || (byte >= 0x80 && !utf8)) {
+            line += {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
+        } else {
+            line += c;
+        }
+    }
+    return line + (end < text.size() ? "..." : "");
+}
+
+std::string Quoted(const std::string &name) {
+    return "'" + Printable(name) + "'";
+}
+
+std::string BundleRules::Add(const std::string &stored_name, mode_t mode, const char *target) {
+    std::vector<std::string> parts = Parts(stored_name);
+    std::string name = Joined(parts);
+    const std::string problem = NameProblem(name, parts);
+    if (!problem.empty()) {
+        Refuse(stored_name, problem);
+        return {};
+    }
+    if (name.empty() && !S_ISDIR(mode)) {
+        Refuse(stored_name, "takes the place of the bundle");
+    }
+    if (name.empty()) {
+        return name;
+    }
+    Refuse(name, ModeProblem(mode));
+    parts.pop_back();
+    const std::string problem_of_target = S_ISLNK(mode) ? TargetProblem(target) : "";
+    Refuse(name, problem_of_target);
+    if (PlaceFolder(Joined(parts)) && Place(name, mode)) {
+        m_before_last = std::exchange(m_last, name);
+        if (S_ISLNK(mode) && problem_of_target.empty()) {
+            m_targets[Folded(name)] = Folded(target);
+        }
+    }
+    return name;
+}
+
+/// The folder of an entry, with those above it: made by the launcher where they are not there yet.
+bool BundleRules::PlaceFolder(const std::string &name) {
+    if (name.empty()) {
+        return true;
+    }
+    if (!PlaceFolder(fs::path(name).parent_path().native())) {
+        return false;
+    }
+    const auto [place, is_new] = m_placed.try_emplace(Folded(name), Placed{name, kFolderMode});
+    const Placed &there = place->second;
+    if (is_new || (there.name == name && S_ISDIR(there.mode))) {
+        return true;
+    }
+    Refuse(name, there.name == name ? "is no folder, but entries lie in it"
+                                    : "is one name with " + Quoted(there.name) + " on a Mac");
+    return false;
+}
+
+/// Whether the entry is a new one.
+bool BundleRules::Place(const std::string &name, mode_t mode) {
+    const auto [place, is_new] = m_placed.try_emplace(Folded(name), Placed{name, mode});
+    const Placed &there = place->second;
+    if (is_new) {
+        return true;
+    }
+    if (there.name != name) {
+        Refuse(name, "is one name with " + Quoted(there.name) + " on a Mac");
+    } else if (!S_ISDIR(mode) || !S_ISDIR(there.mode)) {
+        Refuse(name, "is there twice");
+    } else if (((mode ^ there.mode) & ~kUsualUmask) != 0) {
+        Refuse(name, "is a folder that is there before its permissions");
+    }
+    return false;
+}
+
+void BundleRules::Finish() {
+    for (const auto &[name, target] : m_targets) {
+        fs::path folder = fs::path(name).parent_path();
+        int followed = 0;
+        Refuse(m_placed.at(name).name, Follow(m_targets, target, folder, followed));
+    }
+    RequireFile(kClientExecutable, S_IXUSR, "is not executable");
+    RequireFile(kClientInfo, S_IRUSR, "cannot be read by its owner");
+    RequireFile(kClientPropertyList, S_IRUSR, "cannot be read by its owner");
+    // An interrupted extraction must not look finished: the launcher goes by these two.
+    if (m_before_last != kClientExecutable || m_last != kClientInfo) {
+        Refuse("the last entries are not " + Quoted(kClientExecutable) + " and " +
+               Quoted(kClientInfo));
+    }
+}
+
+void BundleRules::RequireFile(const std::string &name, mode_t permission, const std::string &lack) {
+    const auto found = m_placed.find(Folded(name));
+    if (found == m_placed.end() || found->second.name != name) {
+        Refuse(name, "is missing");
+    } else if (!S_ISREG(found->second.mode)) {
+        Refuse(name, "is not a plain file");
+    } else if ((found->second.mode & permission) == 0) {
+        Refuse(name, lack);
+    }
+}
+
+void BundleRules::Refuse(const std::string &name, const std::string &problem) {
+    if (!problem.empty()) {
+        m_problems.insert(Quoted(name) + " " + problem);
+    }
+}
