@@ -12,12 +12,11 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(realpath "${1:-build-release}") rounds=${2:-5}
 readonly MIN_BYTES=$((80 * 1000 * 1000))
 readonly FLIPS=1000 CUTS=1000
-readonly CODINGS=("--filter zstd" "--filter zstd --level 3" "--filter zstd --level 19"
-                  "--format zip" "--filter xz" "--filter none")
+readonly CODINGS=(lumaris-pack "zstd -3 --check" "zstd -19 --check" zip "xz -6" cat)
 
 command -v bsdtar >/dev/null || { echo "measure-formats: install libarchive-tools" >&2; exit 1; }
 
-cmake --build "$build" --target lumaris-pack lumaris-backup-ui extract-timing damage >/dev/null
+cmake --build "$build" --target lumaris-verify lumaris-backup-ui extract-timing damage >/dev/null
 pack=$build/packaging/lumaris-pack/lumaris-pack timing=$build/bench/extract-timing
 work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-measure.XXXXXX")
 trap 'rm -rf "$work"' EXIT
@@ -47,18 +46,30 @@ seconds() { # seconds COMMAND...: how long it takes
     awk -v from="$start" -v to="$EPOCHREALTIME" 'BEGIN { print to - from }'
 }
 
+# pack_as CODING APP PACKAGE: by lumaris-pack, by bsdtar, or by a command that compresses the tar of
+# lumaris-pack
+pack_as() {
+    case $1 in
+        lumaris-pack)
+            rm -rf "$work/out"
+            "$pack" "$2" "$work/out" >/dev/null
+            cp "$work/out/package/lumaris.wpk" "$3"
+            ;;
+        zip) bsdtar --format zip -C "$2" -cf "$3" Contents ;;
+        *) zstd -dqc "$work/out/package/lumaris.wpk" | $1 > "$3" ;;
+    esac
+}
+
 for i in "${!CODINGS[@]}"; do
-    # shellcheck disable=SC2206 # several options
-    options=(${CODINGS[i]})
-    packing[i]=$(seconds "$pack" --build 121 --major 2 --minor 5 "${options[@]}" "$app" "$work/$i")
-    "$timing" "$work/$i/package/lumaris.wpk" "$work/installed" >/dev/null
+    packing[i]=$(seconds pack_as "${CODINGS[i]}" "$app" "$work/$i")
+    "$timing" "$work/$i" "$work/installed" >/dev/null
     diff -r --no-dereference "$app" "$work/installed"
 done
 
 # One round takes every coding in turn, so that other load on the machine meets all of them.
 for ((round = 1; round <= rounds; ++round)); do
     for i in "${!CODINGS[@]}"; do
-        package=$work/$i/package/lumaris.wpk
+        package=$work/$i
         rm -rf "$work/installed" "$work/peer"
         mkdir "$work/peer"
         read -r count install < <("$timing" "$package" "$work/installed")
@@ -82,7 +93,7 @@ awk -F';' '
         ratios[$1] = ratios[$1] " " $5 / $6
     }
     END {
-        print "| options | MB | pack, s | count, s | count and extract, s | over `bsdtar -xf` |"
+        print "| made by | MB | pack, s | count, s | count and extract, s | over `bsdtar -xf` |"
         print "|---|---|---|---|---|---|"
         for (i = 1; i <= rows; ++i) {
             key = keys[i]
@@ -97,29 +108,20 @@ small=$work/small/Lumaris.app
 mkdir -p "$small/Contents/MacOS" "$small/Contents/Resources" "$small/Contents/Frameworks/A/Versions/5"
 cp "$build/samples/client/lumaris-backup-ui" "$small/Contents/MacOS/"
 cp "$app/Contents/Resources/INFO" "$small/Contents/Resources/"
+cp "$app/Contents/Info.plist" "$small/Contents/"
 seq 2000 > "$small/Contents/Resources/numbers"
 echo secret > "$small/Contents/Resources/secret"
 chmod 400 "$small/Contents/Resources/secret"
 ln -s 5 "$small/Contents/Frameworks/A/Versions/Current"
 
-# damage_row NAME PACKAGE
-damage_row() {
-    local refused whole wrong cut_refused cut_whole cut_wrong
-    mkdir -p "$work/damage"
-    read -r refused whole wrong cut_refused cut_whole cut_wrong < <(
-        "$build/bench/damage" "$2" "$work/damage" "$FLIPS" "$CUTS")
-    echo "| $1 | $(stat -c %s "$2") | $refused | $whole | $wrong | $cut_refused | $cut_whole |" \
-        "$cut_wrong |"
-}
-
 echo
 echo "| package | bytes | flips: refused | whole | wrong | cuts: refused | whole | wrong |"
 echo "|---|---|---|---|---|---|---|---|"
-for options in "--filter zstd" "--format zip" "--filter xz" "--filter none"; do
-    rm -rf "$work/small/out"
-    # shellcheck disable=SC2086 # several options
-    "$pack" --build 121 --major 2 --minor 5 $options "$small" "$work/small/out"
-    damage_row "\`$options\`" "$work/small/out/package/lumaris.wpk"
+mkdir "$work/damage"
+for coding in lumaris-pack zip "xz -6" cat; do
+    pack_as "$coding" "$small" "$work/small/package"
+    read -r refused whole wrong cut_refused cut_whole cut_wrong < <(
+        "$build/bench/damage" "$work/small/package" "$work/damage" "$FLIPS" "$CUTS")
+    echo "| \`$coding\` | $(stat -c %s "$work/small/package") | $refused | $whole | $wrong |" \
+        "$cut_refused | $cut_whole | $cut_wrong |"
 done
-(cd "$small" && bsdtar --format zip -cf "$work/small/zip" Contents)
-damage_row "zip of \`bsdtar\`" "$work/small/zip"

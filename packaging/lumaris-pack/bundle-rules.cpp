@@ -5,13 +5,9 @@
 #include <unicode/unistr.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
-#include <vector>
 
 #include "ustring.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -28,8 +24,6 @@ constexpr std::size_t kRoomForPlace = 64 + sizeof("/.LumarisBackup/Lumaris.app_t
 constexpr mode_t kFolderMode = S_IFDIR | 0755;
 constexpr mode_t kUsualUmask = 022;
 
-using Targets = std::map<std::string, std::string>;
-
 // The form in which a Mac compares names.
 std::string Folded(const std::string &name) {
     UErrorCode status = U_ZERO_ERROR;  // cannot fail: the data are built in
@@ -44,12 +38,14 @@ bool IsUtf8(const std::string &text) {
     return ustring::is_valid(text);
 }
 
-// The parts of a name; the launcher appends it to its own path, where needless "/" and "." vanish.
+// The parts of a name; needless "/" and "." mean nothing to the launcher, to links neither.
 std::vector<std::string> Parts(const std::string &name) {
     std::vector<std::string> parts;
-    for (const fs::path &part : fs::path(name)) {
-        if (!part.empty() && part != "/" && part != "." && part != "//") {
-            parts.push_back(part.native());
+    for (std::size_t begin = 0, end = 0; begin <= name.size(); begin = end + 1) {
+        end = std::min(name.find('/', begin), name.size());
+        const std::string part = name.substr(begin, end - begin);
+        if (!part.empty() && part != ".") {
+            parts.push_back(part);
         }
     }
     return parts;
@@ -64,13 +60,14 @@ std::string Joined(const std::vector<std::string> &parts) {
 }
 
 // Why an entry may not have this name; empty when it may.
-std::string NameProblem(const std::string &name, const std::vector<std::string> &parts) {
-    if (!IsUtf8(name)) {
-        return "is not valid UTF-8";
-    }
+std::string NameProblem(const std::string &name) {
     if (name.size() + kRoomForPlace > kMaxPath) {
         return "is longer than a path can be on a Mac";
     }
+    if (!IsUtf8(name)) {
+        return "is not valid UTF-8";
+    }
+    const std::vector<std::string> parts = Parts(name);
     for (const std::string &part : parts) {
         if (part == "..") {
             return "has a '..' part";
@@ -100,29 +97,30 @@ std::string ModeProblem(mode_t mode) {
     return {};
 }
 
-// Goes on from `folder` to `path`, through the links on the way; tells why it does not arrive.
-std::string Follow(const Targets &targets, const fs::path &path, fs::path &folder, int &followed) {
-    for (const fs::path &step : path) {
+std::string Parent(const std::string &name) {
+    const std::size_t slash = name.rfind('/');
+    return slash == std::string::npos ? "" : name.substr(0, slash);
+}
+
+// Goes on from `folder` over `steps`, through the links on the way; tells why it does not arrive.
+std::string Follow(const std::map<std::string, std::vector<std::string>> &targets,
+                   const std::vector<std::string> &steps, std::string &folder, int &followed) {
+    for (const std::string &step : steps) {
         if (step == ".." && folder.empty()) {
             return "points out of the bundle";
         }
         if (step == "..") {
-            folder = folder.parent_path();
+            folder = Parent(folder);
             continue;
         }
-        if (step.empty() || step == ".") {
-            continue;
-        }
-        const auto link = targets.find((folder / step).native());
+        std::string next = folder.empty() ? step : folder + "/" + step;
+        const auto link = targets.find(next);
         if (link == targets.end()) {
-            folder /= step;
+            folder = std::move(next);
             continue;
         }
         if (++followed > kMaxLinks) {
             return "never arrives";
-        }
-        if (link->second.front() == '/') {
-            return "points out of the bundle";
         }
         std::string problem = Follow(targets, link->second, folder, followed);
         if (!problem.empty()) {
@@ -151,12 +149,13 @@ std::string TargetProblem(const char *target) {
 std::string Printable(const std::string &text) {
     constexpr char digits[] = "0123456789abcdef";
     std::size_t end = std::min<std::size_t>(text.size(), 300);
-    while (end < text.size() && (text[end] & 0xc0) == 0x80) {
+    while (end > 0 && end < text.size() && (text[end] & 0xc0) == 0x80) {
         --end;  // within a character
     }
-    const bool utf8 = IsUtf8(text);
+    const std::string shown = text.substr(0, end);
+    const bool utf8 = IsUtf8(shown);
     std::string line;
-    for (const char c : text.substr(0, end)) {
+    for (const char c : shown) {
         const auto byte = static_cast<unsigned char>(c);
         if (byte < 0x20 || byte == 0x7f || (byte >= 0x80 && !utf8)) {
             line += {'\\', 'x', digits[byte >> 4], digits[byte & 15]};
@@ -172,13 +171,12 @@ std::string Quoted(const std::string &name) {
 }
 
 std::string BundleRules::Add(const std::string &stored_name, mode_t mode, const char *target) {
-    std::vector<std::string> parts = Parts(stored_name);
-    std::string name = Joined(parts);
-    const std::string problem = NameProblem(name, parts);
+    const std::string problem = NameProblem(stored_name);
     if (!problem.empty()) {
         Refuse(stored_name, problem);
         return {};
     }
+    std::string name = Joined(Parts(stored_name));
     if (name.empty() && !S_ISDIR(mode)) {
         Refuse(stored_name, "takes the place of the bundle");
     }
@@ -186,13 +184,12 @@ std::string BundleRules::Add(const std::string &stored_name, mode_t mode, const 
         return name;
     }
     Refuse(name, ModeProblem(mode));
-    parts.pop_back();
     const std::string problem_of_target = S_ISLNK(mode) ? TargetProblem(target) : "";
     Refuse(name, problem_of_target);
-    if (PlaceFolder(Joined(parts)) && Place(name, mode)) {
+    if (PlaceFolder(Parent(name)) && Place(name, mode) && !S_ISDIR(mode)) {
         m_before_last = std::exchange(m_last, name);
         if (S_ISLNK(mode) && problem_of_target.empty()) {
-            m_targets[Folded(name)] = Folded(target);
+            m_targets[Folded(name)] = Parts(Folded(target));
         }
     }
     return name;
@@ -203,7 +200,7 @@ bool BundleRules::PlaceFolder(const std::string &name) {
     if (name.empty()) {
         return true;
     }
-    if (!PlaceFolder(fs::path(name).parent_path().native())) {
+    if (!PlaceFolder(Parent(name))) {
         return false;
     }
     const auto [place, is_new] = m_placed.try_emplace(Folded(name), Placed{name, kFolderMode});
@@ -235,16 +232,17 @@ bool BundleRules::Place(const std::string &name, mode_t mode) {
 
 void BundleRules::Finish() {
     for (const auto &[name, target] : m_targets) {
-        fs::path folder = fs::path(name).parent_path();
+        std::string folder = Parent(name);
         int followed = 0;
         Refuse(m_placed.at(name).name, Follow(m_targets, target, folder, followed));
     }
     RequireFile(kClientExecutable, S_IXUSR, "is not executable");
     RequireFile(kClientInfo, S_IRUSR, "cannot be read by its owner");
     RequireFile(kClientPropertyList, S_IRUSR, "cannot be read by its owner");
-    // An interrupted extraction must not look finished: the launcher goes by these two.
+    // An interrupted extraction must not look finished: the launcher goes by these two. Folders may
+    // follow, since 7-zip stores them last.
     if (m_before_last != kClientExecutable || m_last != kClientInfo) {
-        Refuse("the last entries are not " + Quoted(kClientExecutable) + " and " +
+        Refuse("the last files are not " + Quoted(kClientExecutable) + " and " +
                Quoted(kClientInfo));
     }
 }

@@ -6,6 +6,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "client-layout.h"
 
@@ -50,8 +51,9 @@ private:
     void RequireFile(const std::string &name, mode_t permission, const std::string &lack);
 
     std::set<std::string> m_problems;
-    std::map<std::string, Placed> m_placed;        // by folded name
-    std::map<std::string, std::string> m_targets;  // folded targets by the folded names of links
+    std::map<std::string, Placed> m_placed;  // by folded name
+    // The steps of links by the links' names, all folded; none of a link that is refused by itself.
+    std::map<std::string, std::vector<std::string>> m_targets;
     std::string m_last;
     std::string m_before_last;
 };

@@ -134,13 +134,14 @@ TEST_F(PackageTest, VerifierAndLauncherAgree) {
         {"pax", {no_umlauts, {part}}, "7 entries, POSIX pax", "pax"},
         {"cpio", {}, "cpio", "newc"},
         {"zip", {no_umlauts}, "ZIP", "zip"},
-        {"7-zip, which stores folders last", {no_umlauts}, "7-Zip", "7zip"},
+        {"7-zip, which stores folders last", {no_umlauts, {"empty/"}}, "7-Zip", "7zip"},
         {"needless '/' and '.'", {{"./"}, {"./a/./b//c", "x"}, {"/d", "x"}}, "GNU tar"},
         {"a folder twice", {{"a/b"}, {"a/"}, {"a/"}}, ""},
         {"a link", {{"a/b/"}, Link("a/l", "b/../../Contents")}, ""},
     };
     const Row bad[] = {
         {"no content", {}, "the format is mtree", "mtree"},
+        {"a wrong 's' in 'plist'", {no_umlauts}, "data that", "zip", "\xc9,.\x01", "\xcb,.\x01"},
         {"a warning", {no_umlauts, {part}}, "cannot be read", "pax", "path=n", "path=\xfc"},
         {"'..'", {{"a/../x"}}, "has a '..' part"},
         {"no name", {{"a"}, {""}}, "takes the place of the bundle"},
@@ -186,7 +187,7 @@ TEST_F(PackageTest, VerifierAndLauncherAgree) {
         {"executable without 'x'", {{kExecutable, "x"}}, "is not executable"},
         {"executable empty", {{kExecutable, "", 0755}}, "backup-ui' is empty"},
         {"no property list", {{kPlist, "", kAbsent}}, "plist' is missing"},
-        {"INFO not last", {{kInfo, "", kAbsent}, {kInfo, Info("121")}}, "the last entries"},
+        {"INFO not last", {{kInfo, "", kAbsent}, {kInfo, Info("121")}}, "the last files"},
     };
     for (const Row &row : good) {
         Expect(true, true, row);
