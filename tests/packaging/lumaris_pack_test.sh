@@ -4,6 +4,7 @@
 # usage: lumaris_pack_test.sh LUMARIS_PACK
 set -eu
 umask 022
+export LC_ALL=C
 pack=$1
 verify=${pack%/*}/lumaris-verify
 work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-pack-test.XXXXXX")
@@ -41,14 +42,14 @@ expect() {
 
 client
 "$pack" Client.app first
+tar -tf first/package/lumaris.wpk | head -n -2 | sort -c
 cmp first/INFO Client.app/Contents/Resources/INFO
 mkdir unpacked
 tar -xpf first/package/lumaris.wpk -C unpacked
 diff -r Client.app unpacked
 mv unpacked 'another place' # whose files have times of their own, and no two are one
-TAR_OPTIONS=--totals CDPATH=/ TZ=Asia/Tokyo "$pack" 'another place/' "$work/second"
+TAR_OPTIONS=--totals CDPATH=$PWD TZ=Asia/Tokyo "$pack" 'another place/' "$work/second/"
 cmp first/package/lumaris.wpk "$work/second/package/lumaris.wpk"
-
 
 pack_out='"$pack" Client.app out'
 expect 2 usage '"$pack" Client.app'
@@ -78,7 +79,7 @@ lines'"
 expect_refused 'Cannot open: Permission denied' 'chmod 0 Info.plist'
 expect_refused 'Permission denied' 'mkdir -m 0 closed'
 expect_refused "Info.plist' is missing" 'rm Info.plist'
-expect_refused 'File too large' 'head -c 9M /dev/urandom > big' 'trap "" XFSZ; ulimit -f 99;'
+expect_refused "'out' cannot be written: zstd" 'head -c 9M /dev/urandom > big' 'trap "" XFSZ; ulimit -f 99;'
 client
 truncate -s 100G Client.app/Contents/big # takes minutes to read
 expect 1 interrupted "$pack_out & until ls out.*/out/package/*; do sleep .1; done >/dev/null 2>&1
