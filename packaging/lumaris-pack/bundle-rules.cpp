@@ -113,7 +113,8 @@ std::string Follow(const std::map<std::string, std::vector<std::string>> &target
             folder = Parent(folder);
             continue;
         }
-        std::string next = folder.empty() ? step : folder + "/" + step;
+        std::string next = folder;
+        next += (folder.empty() ? "" : "/") + step;
         const auto link = targets.find(next);
         if (link == targets.end()) {
             folder = std::move(next);
