@@ -200,6 +200,16 @@ TEST_F(PackageTest, VerifierAndLauncherAgree) {
     }
 }
 
+// As a flipped bit can make it: an empty block in place of a file's header.
+TEST_F(PackageTest, AnEmptyBlockIsNoEnd) {
+    WritePackage(package, Client({}));
+    WriteFile(package, ReadFile(package).replace(3 * 512, 512, 512, '\0'));
+    WriteFile(app / "old", "1");
+    EXPECT_EQ('1', Judge()[0]);
+    EXPECT_EQ(-1, MacService().PrepareUserEnv());
+    EXPECT_EQ("old=1", Tree(app));
+}
+
 // In the form that lumaris-pack makes. A few bits of the compression have no meaning.
 TEST_F(PackageTest, DamageIsRefusedOrHasNoEffect) {
     const Entries entries = Client({});

@@ -22,5 +22,8 @@ inline int OpenArchive(archive *reader, const char *path) {
     // The current name of archive_read_support_compression_all.
     archive_read_support_filter_all(reader);
     archive_read_support_format_all(reader);
+    // An empty block ends a tar only where the file ends. Otherwise one damaged bit of a compressed
+    // tar could make such a block, and the checksum behind it would never be looked at.
+    archive_read_set_format_option(reader, "tar", "read_concatenated_archives", "1");
     return archive_read_open_filename(reader, path, block_size);
 }
