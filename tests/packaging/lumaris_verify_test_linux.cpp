@@ -200,7 +200,8 @@ TEST_F(PackageTest, VerifierAndLauncherAgree) {
 // As a flipped bit can make it: an empty block in place of a file's header.
 TEST_F(PackageTest, AnEmptyBlockIsNoEnd) {
     WritePackage(package, Client({}));
-    WriteFile(package, ReadFile(package).replace(3 * 512, 512, 512, '\0'));
+    const size_t block = 512;
+    WriteFile(package, ReadFile(package).replace(3 * block, block, block, '\0'));
     WriteFile(app / "old", "1");
     EXPECT_EQ('1', Judge()[0]);
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
