@@ -225,7 +225,7 @@ TEST_F(SweepTest, PowerLost) {
         const int written = open((app / "Contents/Resources/INFO").c_str(), O_RDONLY | O_CLOEXEC);
         fsync(written);
         close(written);
-        EXPECT_EQ(0, system("cp \"$disk\" \"$disk.cut\" && umount \"$home\" && "
+        EXPECT_EQ(0, system("cp \"$disk\" \"$disk.cut\" && umount -l \"$home\" && "
                             "mv \"$disk.cut\" \"$disk\" && mount -o loop \"$disk\" \"$home\""));
         ExpectAWholeClient();
         StartAgain();
