@@ -113,42 +113,44 @@ TEST_F(LaunchTest, LeavesTheClientAloneWhenAllBackupNamesAreTaken) {
     EXPECT_TRUE(HasLine("_tmp9' at max retries, exiting\n")) << LauncherLog();
 }
 
-TEST_F(LaunchTest, ALockThatIsNotOursStopsNobody) {
-    Install();
-    ExpectLaunch("121");
-    fs::path lock;  // beside what the toolkit keeps there
-    for (const auto &entry : fs::directory_iterator(place / "tmp")) {
-        lock = entry.is_regular_file() ? entry.path() : lock;
-    }
-    const struct {
-        const char *what;
-        std::function<void()> make;
-    } rows[] = {
-        {"a folder", [&] { fs::create_directories(lock / "x"); }},
-        {"a file with a second name",
-         [&] {
-             WriteFile(place / "tmp/other", "");
-             fs::create_hard_link(place / "tmp/other", lock);
-         }},
-        {"a file of another user",
-         [&] {
-             WriteFile(lock, "");
-             EXPECT_EQ(0, chown(lock.c_str(), 65534, 65534));
-         }},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
-        if (row.what == rows[2].what && geteuid() != 0) {
-            GTEST_SKIP() << "only root can give a file to another user";
+class LockTest : public LaunchTest {
+protected:
+    LockTest() {
+        Install();
+        ExpectLaunch("121");
+        for (const auto &entry : fs::directory_iterator(place / "tmp")) {
+            if (entry.is_regular_file()) {
+                lock = entry.path();
+            }
         }
-        fs::remove_all(lock);
-        row.make();
+        Install();
+    }
+    /// An upgrade while somebody else holds the lock.
+    void ExpectUpgrade() {
         const int other = open(lock.c_str(), O_RDONLY | O_CLOEXEC);
         EXPECT_EQ(0, flock(other, LOCK_EX));
-        Install();
         ExpectLaunch("121");
         close(other);
     }
+    fs::path lock;
+};
+
+TEST_F(LockTest, AFileWithASecondNameStopsNobody) {
+    fs::create_hard_link(lock, place / "tmp/other");
+    ExpectUpgrade();
+}
+
+TEST_F(LockTest, AFileOfAnotherUserStopsNobody) {
+    if (chown(lock.c_str(), 65534, 65534) != 0) {
+        GTEST_SKIP() << "only root can give a file to another user";
+    }
+    ExpectUpgrade();
+}
+
+TEST_F(LockTest, AFolderStopsNobody) {
+    fs::remove(lock);
+    fs::create_directories(lock / "x");
+    ExpectUpgrade();
 }
 
 }  // namespace
