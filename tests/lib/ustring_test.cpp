@@ -5,6 +5,7 @@
 #include <unicode/normalizer2.h>
 
 #include <functional>
+#include <iostream>
 #include <random>
 
 struct ustring_test_access {
@@ -126,7 +127,7 @@ const char *Edit(unsigned which, ustring &u, std::string &s, const std::string &
 
 /// Draws a series of edits from the input and makes them on `ustring` and on what it is measured
 /// by: std::string and ICU's own string class. Says where the two differ first, or nothing.
-std::string FirstDifference(const uint8_t *data, size_t size) {
+std::string FirstDifference(const uint8_t *data, size_t size) try {
     // Together not always UTF-8, and at times longer than the buffers of a conversion.
     const std::string pieces[] = {
         "/",    "aB",           "\xC3\xA9",           "e\xCC\x81", "\xF0\x9F\x98\x80",
@@ -151,11 +152,13 @@ std::string FirstDifference(const uint8_t *data, size_t size) {
         CompareOrder(both, u, s, s.substr(0, n) + x, pos);
         if (!both.difference.empty()) {
             return both.difference + "\nafter " + edit + " in " + Comparison::Shown(before) +
-                   "\nwith " + Comparison::Shown(std::tuple(x, pos, n));
+                   "\nwith " + Comparison::Shown(std::tuple(pos, n, x));
         }
         data += 8;
     }
     return "";
+} catch (const std::exception &error) {
+    return std::string("an exception: ") + error.what();
 }
 
 }  // namespace
