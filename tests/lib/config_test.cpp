@@ -25,7 +25,6 @@ TEST_F(ConfigTest, ReadsLines) {
         {"marks in values",
          "a=b#c\nb=b=c\nc=#\nd==x'\"",
          {{"a", "b#c"}, {"b", "b=c"}, {"c", "#"}, {"d", "=x'\""}}},
-        {"an empty key", "=\xFF\n", {{"", "\xFF"}}},
         {"the last of a key", "a=1\nB=2\na=2\n", {{"a", "2"}, {"B", "2"}}},
         {"too long a line is two", "a=" + filled + "b=1\n", {{"a", filled}, {"b", "1"}}},
     };

@@ -107,13 +107,6 @@ TEST_F(LoggerTest, FollowsAnotherWriterThatRotated) {
     EXPECT_EQ(fs::file_size(log), 20 + LIMIT);
 }
 
-TEST_F(LoggerTest, ReloadingAppendsAndCountsFromZero) {
-    Write(FILLS_THE_LOG);
-    Logger::ReloadLogFile();
-    Write("more\n");
-    EXPECT_EQ(fs::file_size(log), LIMIT + STAMP + 5);
-}
-
 TEST_F(LoggerTest, NoDescriptorStaysOpen) {
     const int lowest = fileno(Logger::log_fp);
     EXPECT_EQ(Logger::Rotate(), 0);
