@@ -217,6 +217,16 @@ TEST_F(FileOpTest, OnlyDeniedAccessIsLocked) {
     EXPECT_FALSE(hasFilePermission("file", X_OK));
 }
 
+TEST_F(FileOpTest, ComparesDescriptions) {
+    FILE_INFO exists, size, mtime, type, path, name;
+    exists.exists = true;
+    size.size = mtime.mtime = type.type = 1;
+    path.path = name.name = "x";
+    for (const FILE_INFO &other : {exists, size, mtime, type, path, name}) {
+        EXPECT_TRUE(other != FILE_INFO());
+    }
+}
+
 TEST_F(FileOpTest, GivesUpOnWhatIsGone) {
     ustring path(".");
     fs::remove_all(home);

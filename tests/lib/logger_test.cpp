@@ -160,6 +160,6 @@ TEST_F(LoggerTest, MessagesOfEightThreadsStayWhole) {
 extern "C" void vsyslog(int priority, const char *, va_list) {
     syslog_messages += priority == LOG_ERR;
 }
-extern "C" void __vsyslog_chk(int priority, int, const char *format, va_list args) {
-    vsyslog(priority, format, args);
+extern "C" void __vsyslog_chk(int priority, int, const char *, va_list) {
+    syslog_messages += priority == LOG_ERR;
 }
