@@ -28,8 +28,9 @@ void Write(const std::string &text, Logger::Level level = Logger::LEVEL_ERROR) {
 class LoggerTest : public HomeTest {
 protected:
     LoggerTest() {
-        setenv("TZ", "Asia/Tokyo", 1);
+        setenv("TZ", "UTC", 1);
         tzset();
+        setenv("TZ", "Asia/Tokyo", 1);  // while the process runs
     }
     int Start(const fs::path &path, Logger::Type type = Logger::TYPE_FILE) {
         return Logger::Initialize(type, path.c_str(), (root / "levels").c_str(), 9);
