@@ -23,10 +23,10 @@
 
 namespace fs = std::filesystem;
 
-/// What one step may take; then SIGALRM ends the program: a hang is a failure.
+/// Seconds that one step may take. SIGALRM then ends the program, so that a hang is a failure.
 const unsigned kSecondsPerStep = 60;
 
-/// The nightly run looks at every place where the quick one takes a sample.
+/// True in the long run, which looks at every place where the quick one takes a sample.
 const bool kLong = getenv("LUMARIS_LONG") != nullptr;
 
 inline void WriteFile(const fs::path &path, const std::string &text) {
@@ -39,7 +39,7 @@ inline std::string ReadFile(const fs::path &path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// For what other processes do at once, unless they are broken.
+/// Waits for what another process is about to do; false when it has not come after 10 seconds.
 inline bool Eventually(const std::function<bool()> &holds) {
     for (const time_t end = time(nullptr) + 10; time(nullptr) < end; usleep(2000)) {
         if (holds()) {
@@ -56,7 +56,7 @@ inline int Finish(pid_t child) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
 }
 
-/// Runs `checks` in a process of their own that ends with 1 if one failed, or what they start.
+/// Runs `checks` in a child process, which exits with 1 if one of them failed.
 inline pid_t Child(const std::function<void()> &checks) {
     const pid_t child = fork();
     if (child != 0) {
