@@ -9,15 +9,6 @@
 
 namespace {
 
-/// Results of operations, which run from left to right: Results() << FSCopy(...) << FSRename(...)
-using Results = std::string;
-Results operator<<(const Results &results, const ustring &text) {
-    return results + (results.empty() ? "" : " ") + text.c_str();
-}
-Results operator<<(const Results &results, long code) {
-    return results << std::to_string(code).c_str();
-}
-
 /// Every test works in a folder of its own, which is the current one, and closes what it opens.
 class FileOpTest : public HomeTest {
 protected:
@@ -35,24 +26,44 @@ TEST_F(FileOpTest, FindsAnySpelling) {
         WriteFile(file, "12345");
     }
     fs::create_directory_symlink("d", "link");
-    // What GetFileInfo tells; then whether the path exists, and whether it is the exact one.
-    const std::pair<ustring, ustring> cases[] = {
-        {Full("d/\u00E9te\u0301"), "0 1 1 5 " + Full("d/\u00E9t\u00E9") + " \u00E9t\u00E9 1 0 1"},
-        {"link/e\u0301t\u00E9", "0 1 1 5 " + Full("d/\u00E9t\u00E9") + " \u00E9t\u00E9 1 0 0"},
-        {Full("link"), "0 1 3 1 " + Full("link") + " link 1 0 1"},
-        {"Kelvin", "0 1 1 5 " + Full("Kelvin") + " Kelvin 1 0 0"},
-        {Full("x (deleted)"), "0 1 1 5 " + Full("x (deleted)") + " x (deleted) 1 0 1"},
-        {"no/\u00E9", "0 0 0 0 no/\u00E9 \u00E9 0 0 0"},
-        {"Kelvin/x", "-1 1 0 0   0 0 0"},
-        {"", "0 0 0 0   0 -1 1"}};
-    for (const auto &[path, expected] : cases) {
+    const struct {
+        const char *what;
+        ustring path, stored;
+        int type, size;  // FILE_TYPE_..., bytes
+        bool exact;      // asked for as it is stored
+    } cases[] = {
+        {"respelt", Full("d/\u00E9te\u0301"), Full("d/\u00E9t\u00E9"), 1, 5, true},
+        {"through a link", "link/\u00E9t\u00E9", Full("d/\u00E9t\u00E9"), 1, 5, false},
+        {"a link", Full("link"), Full("link"), 3, 1, true},
+        {"relative", "Kelvin", Full("Kelvin"), 1, 5, false},
+        {"named as if removed", Full("x (deleted)"), Full("x (deleted)"), 1, 5, true},
+        {"missing", "no/\u00E9", "no/\u00E9", 0, 0, false},
+    };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.what);
+        const bool exists = row.type != FILE_TYPE_NONE;
         FILE_INFO info, exact;
         info.exists = exact.exists = true;  // left over from another file
-        EXPECT_EQ(Results() << GetFileInfo(path, info) << info.exists << info.type << info.size
-                            << info.path << info.name << IsFileExist(path, false)
-                            << FSStat(path, exact, true) << exact.exists,
-                  expected.c_str());
+        EXPECT_EQ(GetFileInfo(row.path, info), 0);
+        EXPECT_EQ(info.exists, exists);
+        EXPECT_EQ(info.type, row.type);
+        EXPECT_EQ(info.size, row.size);
+        EXPECT_EQ(info.path, row.stored);
+        EXPECT_EQ(info.name, FSBaseName(row.stored));
+        EXPECT_EQ(IsFileExist(row.path, false), exists);
+        EXPECT_EQ(FSStat(row.path, exact, true), 0);
+        EXPECT_EQ(exact.exists, row.exact);
     }
+}
+
+TEST_F(FileOpTest, FindsNothingBeneathAFile) {
+    WriteFile("file", "");
+    FILE_INFO info;
+    EXPECT_EQ(GetFileInfo("file/x", info), -1);
+    EXPECT_EQ(FSStat("file/x", info, false), 0);
+    EXPECT_FALSE(info.exists);
+    EXPECT_EQ(FSStat("", info, false), -1);
+    EXPECT_FALSE(IsFileExist("", false));
 }
 
 TEST_F(FileOpTest, FindsAFileThatIsReplacedMeanwhile) {
@@ -71,114 +82,156 @@ TEST_F(FileOpTest, FindsAFileThatIsReplacedMeanwhile) {
     EXPECT_LE(missed, 3);  // now and then a writer that never pauses wins
 }
 
-TEST_F(FileOpTest, CopiesRenamesAndRemoves) {
-    for (const char *file :
-         {"src", "dst", "e\u0301/f", "full/f", "u\u0308/e\u0301", "u\u0308/.d/.f", "kept/f"}) {
-        WriteFile(file, file);
-    }
-    fs::create_directory_symlink("../kept", "u\u0308/link");
-    fs::permissions("dst", fs::perms(0600));
-    EXPECT_EQ(Results() << FSCopy("src", "e\u0301/f", false) << FSCopy("src", "\u00E9/f", true)
-                        << FSCopy("full/f", "dst", false) << FSCopy("src", "dst", false)
-                        << FSCopy("dst", "\u00E9/f/x", true) << FSCopy(".", "void", true),
-              "0 0 0 -1 -1 -1");
-    EXPECT_EQ(Results() << FSRename("", "x", false) << FSRename("dst", "", false)
-                        << FSRename("none", "x", false) << FSRename("dst", "x", true)
-                        << FSRename("e\u0301", "full", false)
-                        << FSRename("dst", std::string(256, 'n'), false)
-                        << FSRename("full", "to", false) << FSRename(Full("\u00E9/f"), "x", true),
-              "-1 -1 -2 -2 -3 -100 0 0");
-    EXPECT_EQ(Results() << FSRemove("\u00FC", true) << FSRemove("\u00FC", true)
-                        << FSRemove("", true) << FSRemove("x/x", true),
-              "0 0 -1 -1");
-    EXPECT_EQ(Tree("."), "dst=full/f:600 e\u0301/ kept/ kept/f=kept/f to/ to/f=full/f void= x=src");
+TEST_F(FileOpTest, Copies) {
+    WriteFile("src", "new");
+    WriteFile("kept", "longer");
+    WriteFile("e\u0301/f", "old");
+    fs::permissions("kept", fs::perms(0600));
+    EXPECT_EQ(FSCopy("src", "kept", false), 0);
+    EXPECT_EQ(FSCopy("src", "\u00E9/f", true), 0) << "and removes the source";
+    EXPECT_EQ(FSCopy("src", "x", false), -1) << "the source is missing";
+    EXPECT_EQ(FSCopy("kept", "\u00E9/f/x", true), -1) << "nothing can be made there";
+    EXPECT_EQ(FSCopy(".", "void", true), -1) << "a folder cannot be read";
+    EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/f=new kept=new:600 void=");
 }
 
-/// The errno code of FSMKDirP, and what its walk did not reach.
-ustring MakeAll(const ustring &path, bool replace_files = false, unsigned short mode = 0xFFFF) {
-    char *stop = nullptr;
-    const int error = FSMKDirP(path, &stop, replace_files, mode) == 0 ? 0 : errno;
-    return ustring(std::to_string(error).c_str()) + stop;
+TEST_F(FileOpTest, Renames) {
+    for (const char *file : {"file", "e\u0301/f", "full/f"}) {
+        WriteFile(file, file);
+    }
+    EXPECT_EQ(FSRename("", "x", false), -1);
+    EXPECT_EQ(FSRename("file", "", false), -1);
+    EXPECT_EQ(FSRename("none", "x", false), -2);
+    EXPECT_EQ(FSRename("file", "x", true), -2) << "not the exact path";
+    EXPECT_EQ(FSRename("e\u0301", "full", false), -3) << "it is not empty";
+    EXPECT_EQ(FSRename("file", std::string(256, 'n'), false), -100);
+    EXPECT_EQ(FSRename("full", "to", false), 0);
+    EXPECT_EQ(FSRename(Full("\u00E9/f"), "x", true), 0);
+    EXPECT_EQ(Tree("."), "e\u0301/ file=file to/ to/f=full/f x=e\u0301/f");
+}
+
+TEST_F(FileOpTest, Removes) {
+    for (const char *file : {"u\u0308/e\u0301", "u\u0308/.d/.f", "kept/f"}) {
+        WriteFile(file, "");
+    }
+    fs::create_directory_symlink("../kept", "u\u0308/link");
+    EXPECT_EQ(FSRemove("\u00FC", true), 0);
+    EXPECT_EQ(FSRemove("\u00FC", true), 0) << "it is gone already";
+    EXPECT_EQ(FSRemove("", true), -1);
+    EXPECT_EQ(FSRemove("kept/f/x", true), -1) << "beneath a file";
+    EXPECT_EQ(Tree("."), "kept/ kept/f=");
 }
 
 TEST_F(FileOpTest, MakesFolders) {
-    WriteFile("file", "");
     WriteFile("e\u0301/file", "");
-    fs::create_directory_symlink("e\u0301", "link");
-    EXPECT_EQ(Results() << FSMKDir("", true) << FSMKDir("file/x", true)
-                        << FSMKDir("\u00E9/file", true) << FSMKDir("a/b", false)
-                        << FSMKDir("a/b/", true) << FSMKDir("a/b", false)
-                        << FSMKDirFromRoot("a", "a/b") << FSMKDirFromRoot("axx", "a")
-                        << FSMKDirFromRoot("file/x", "file") << FSMKDirFromRoot("a/b/c/d", "a"),
-              "-1 -1 -1 -2 0 0 -1 -1 -1 0");
-    EXPECT_EQ(Results() << MakeAll(Full("new/a/")) << MakeAll("link/d")
-                        << MakeAll("\u00E9/x/y", false, 0775) << MakeAll("e\u0301/file")
-                        << MakeAll("\u00E9/file/x/y") << MakeAll(Full("file/x"), true),
-              "0/ 0 0 17 20/y 0");
-    EXPECT_EQ(umask(022), mode_t{022});  // as it was
-    EXPECT_EQ(Tree("."),
-              "a/ a/b/ a/b/c/ a/b/c/d/ e\u0301/ e\u0301/d/ e\u0301/file= e\u0301/x/:775 "
-              "e\u0301/x/y/:775 file/ file/x/ link->e\u0301 new/ new/a/");
+    EXPECT_EQ(FSMKDir("", true), -1);
+    EXPECT_EQ(FSMKDir("e\u0301/file/x", true), -1);
+    EXPECT_EQ(FSMKDir("\u00E9/file", true), -1);
+    EXPECT_EQ(FSMKDir("a/b", false), -2) << "its parent is missing";
+    EXPECT_EQ(FSMKDir("a/b/", true), 0);
+    EXPECT_EQ(FSMKDir("a/b", false), 0) << "it is there";
+    EXPECT_EQ(FSMKDirFromRoot("a/b/c/d", "a"), 0);
+    EXPECT_EQ(FSMKDirFromRoot("axx", "a"), -1) << "it is not below";
+    EXPECT_EQ(Tree("."), "a/ a/b/ a/b/c/ a/b/c/d/ e\u0301/ e\u0301/file=");
+}
+
+TEST_F(FileOpTest, MakesAllFoldersOfAPath) {
+    WriteFile("e\u0301/file", "");
+    WriteFile("old", "");
+    char *stop = nullptr;
+    EXPECT_EQ(FSMKDirP("\u00E9/x/y", &stop, false, 0775), 0);
+    EXPECT_STREQ(stop, "") << "the end";
+    EXPECT_EQ(FSMKDirP("\u00E9/file/x/y", &stop, false, 0xFFFF), -1);
+    EXPECT_EQ(errno, ENOTDIR);
+    EXPECT_STREQ(stop, "/y") << "not reached";
+    EXPECT_EQ(FSMKDirP(Full("old/x"), nullptr, true, 0xFFFF), 0) << "in place of a file";
+    EXPECT_EQ(umask(022), mode_t{022}) << "as it was";
+    EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/file= e\u0301/x/:775 e\u0301/x/y/:775 old/ old/x/");
 }
 
 TEST_F(FileOpTest, ListsFolders) {
     WriteFile("e\u0301/file", "12345");
     fs::create_symlink("file", "e\u0301/link");
+    EXPECT_EQ(FSUTime("\u00E9/file", 1, 20), 0);
     DIR_HANDLE handle;
+    EXPECT_EQ(FSOpenDir("none", 0, handle), -1);
+    EXPECT_EQ(FSOpenDir(Full("\u00E9"), DIR_FLAG_STAT, handle), 0);
+    std::map<ustring, int> types;
     DIR_ENTRY entry;
-    EXPECT_EQ(Results() << FSUTime("\u00E9/file", 1, 20) << FSOpenDir("none", 0, handle)
-                        << FSOpenDir(Full("\u00E9"), DIR_FLAG_STAT, handle),
-              "0 -1 0");
-    std::set<Results> found;
     for (errno = EIO; FSReadDir(handle, entry) == 1; errno = EIO) {
-        const long told = entry.name == "file" ? entry.mtime + entry.size : 0;
-        found.insert(Results() << entry.name << entry.type << told);
+        types[entry.name] = entry.type;
+        EXPECT_TRUE(entry.name != "file" || (entry.size == 5 && entry.mtime == 20));
     }
-    EXPECT_EQ(found, (std::set<Results>{". 2 0", ".. 2 0", "file 1 25", "link 3 0"}));
-    EXPECT_EQ(FSReadDir(handle, entry), 0);
+    EXPECT_EQ(types, (std::map<ustring, int>{{".", 2}, {"..", 2}, {"file", 1}, {"link", 3}}));
+    EXPECT_EQ(FSReadDir(handle, entry), 0) << "the end is no error";
     FSCloseDir(handle);
     EXPECT_EQ(handle.dir, nullptr);
 }
 
-/// The operations that the launcher does not call.
-TEST_F(FileOpTest, OtherOperations) {
+TEST_F(FileOpTest, SplitsPaths) {
+    EXPECT_EQ(FSParentPath("/a/b"), "/a");
+    EXPECT_EQ(FSParentPath("/a"), "/");
+    EXPECT_EQ(FSBaseName("a"), "a");
+    EXPECT_EQ(FSBaseName("a/b/"), "");
+    EXPECT_TRUE(FSIsParentFolder("/a", "/a/b"));
+    EXPECT_FALSE(FSIsParentFolder("/a", "/ab"));
+    EXPECT_FALSE(FSIsParentFolder("/a", "/b/c"));
+}
+
+TEST_F(FileOpTest, MakesAndReadsLinks) {
     WriteFile("e\u0301/file", "");
-    fs::create_symlink("none", "e\u0301/dead");  // an operation that follows it fails
-    const ustring dead("\u00E9/dead"), made("\u00E9/made");
-    ustring text, real = made, none("none"), temp, path;
-    const gid_t group = geteuid() == 0 ? 1 : getegid();  // not the one that files have anyway
-    FILE_INFO info;
-    EXPECT_EQ(Results() << FSCreateSymbolicLink("file", made) << FSCreateSymbolicLink("file", made)
-                        << FSReadSymbolicLink(made, text) << text
-                        << FSReadSymbolicLink("none", text),
-              "0 -1 0 file -1");
-    EXPECT_EQ(Results() << FSGetRealPath(real) << FSGetRealPath(none) << none
-                        << FSMktemp("none", temp) << FSMktemp("\u00E9", temp) << FSParentPath(temp)
-                        << GetFileInfo(temp, info) << info.mode << FSCreateTempPath("none", path)
-                        << FSParentPath(path) << FSParentPath("/a") << FSParentPath("a")
-                        << FSBaseName("a"),
-              "0 -1 none -1 0 \u00E9 0 33188 0 none / / a");
+    ustring text, real = "\u00E9/link", none = "none";
+    EXPECT_EQ(FSCreateSymbolicLink("file", "\u00E9/link"), 0);
+    EXPECT_EQ(FSCreateSymbolicLink("file", "\u00E9/link"), -1);
+    EXPECT_EQ(FSReadSymbolicLink("\u00E9/link", text), 0);
+    EXPECT_EQ(text, "file");
+    EXPECT_EQ(FSReadSymbolicLink("none", text), -1);
+    EXPECT_EQ(FSGetRealPath(real), 0);
     EXPECT_EQ(real, Full("e\u0301/file"));
-    EXPECT_EQ(Results() << FSUTime("none", 1, 2) << FSUTime(dead, 1, 2) << FSChown("none", 0, 0)
-                        << FSChown(dead, geteuid(), group) << GetFileInfo(dead, info) << info.mtime
-                        << info.gid - group << (info.dev != 0),
-              "-1 0 -1 0 0 2 0 1");
-    EXPECT_EQ(Results() << isFileLocked(made, X_OK) << isFileLocked("none", X_OK)
-                        << hasFilePermission(made, X_OK) << hasFilePermission("none", X_OK)
-                        << isMountPoint(".") << isMountPoint("none") << IsMSDOS(".")
-                        << IsMSDOS("none") << SyncVolume("none") << FSTimeEqual(5, 5)
-                        << FSTimeEqual(5, 6) << FSIsParentFolder("/a", "/a")
-                        << FSIsParentFolder("/a", "/a/b") << FSIsParentFolder("/a", "/ab")
-                        << FSIsParentFolder("/a", "/b/c") << FSIsParentFolder("/a/", "/a"),
-              "1 0 0 1 0 0 0 0 -1 1 0 1 1 0 0 0");
-    EXPECT_TRUE(Logged("IsSupportLargeFile: Failed to get file system info 'none'. No such"));
-    FILE_INFO other[8];
-    other[0].exists = true;
-    other[1].size = other[2].mtime = other[3].type = 1;
-    other[4].path = other[5].name = "x";
-    EXPECT_EQ(std::count(other, other + 8, FILE_INFO()), 2);
-    // What stays removed is not looked up without end.
-    EXPECT_EQ(Results() << (fs::remove_all(home) > 0) << FSGetRealPath(real = "."), "1 -1");
+    EXPECT_EQ(FSGetRealPath(none), -1);
+    EXPECT_EQ(none, "none");
+}
+
+TEST_F(FileOpTest, ChangesALinkAndNotItsTarget) {
+    fs::create_symlink("none", "dead");  // an operation that follows it fails
+    FILE_INFO info;
+    EXPECT_EQ(FSUTime("dead", 1, 2), 0);
+    EXPECT_EQ(FSChown("dead", geteuid(), getegid()), 0);
+    EXPECT_EQ(GetFileInfo("dead", info), 0);
+    EXPECT_EQ(info.mtime, 2);
+    EXPECT_EQ(FSChown("none", 0, 0), -1);
+}
+
+TEST_F(FileOpTest, MakesTemporaryFiles) {
+    fs::create_directory("e\u0301");
+    ustring file;
+    EXPECT_EQ(FSMktemp("none", file), -1);
+    EXPECT_EQ(FSMktemp("\u00E9", file), 0);
+    EXPECT_EQ(Tree("."), std::string("e\u0301/ e\u0301/") + FSBaseName(file).c_str() + "=");
+}
+
+TEST_F(FileOpTest, OnlyDeniedAccessIsLocked) {
+    WriteFile("file", "");
+    EXPECT_TRUE(isFileLocked("file", X_OK));
+    EXPECT_FALSE(isFileLocked("none", X_OK));
+    EXPECT_FALSE(hasFilePermission("file", X_OK));
+}
+
+TEST_F(FileOpTest, ComparesDescriptions) {
+    FILE_INFO exists, size, mtime, type, path, name;
+    exists.exists = true;
+    size.size = mtime.mtime = type.type = 1;
+    path.path = name.name = "x";
+    for (const FILE_INFO &other : {exists, size, mtime, type, path, name}) {
+        EXPECT_TRUE(other != FILE_INFO());
+    }
+}
+
+TEST_F(FileOpTest, GivesUpOnWhatIsGone) {
+    ustring path(".");
+    fs::remove_all(home);
+    EXPECT_EQ(FSGetRealPath(path), -1);
+    EXPECT_EQ(SyncVolume("none"), -1);
 }
 
 }  // namespace

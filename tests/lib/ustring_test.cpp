@@ -5,6 +5,7 @@
 #include <unicode/normalizer2.h>
 
 #include <functional>
+#include <iostream>
 #include <random>
 
 struct ustring_test_access {
@@ -28,81 +29,105 @@ std::string Narrow(const std::u16string &units) {
     return Wide(s) == units ? s : "";
 }
 
-void CheckForms(const ustring &u, const std::string &s) {
-    EXPECT_EQ(u.length(), s.size());
-    EXPECT_EQ(u.c_str(), s);
-    EXPECT_EQ(reinterpret_cast<const char16_t *>(u.c_str_utf16()), Wide(s));
-    EXPECT_GT(ustring_test_access::units(u), Wide(s).size());
-    EXPECT_EQ(ustring::is_valid(u), Narrow(Wide(s)) == s);
+/// Compares results of `ustring` with those of its model, up to the first that differs.
+class Comparison {
+public:
+    template <typename Result, typename Expected>
+    void Same(const char *what, const Result &result, const Expected &expected) {
+        if (difference.empty() && !(result == expected)) {
+            difference = std::string(what) + " gave " + Shown(result) + ", not " + Shown(expected);
+        }
+    }
+    template <typename Value>
+    static std::string Shown(const Value &value) {
+        return testing::PrintToString(value).substr(0, 200);
+    }
+    std::string difference;
+};
+
+void CompareForms(Comparison &both, const ustring &u, const std::string &s) {
+    both.Same("c_str", std::string(u.c_str()), s);
+    both.Same("length", u.length(), s.size());
+    const auto *const units = reinterpret_cast<const char16_t *>(u.c_str_utf16());
+    both.Same("c_str_utf16", std::u16string(units), Wide(s));
+    both.Same("is_valid", ustring::is_valid(u), Narrow(Wide(s)) == s);
     UErrorCode status = U_ZERO_ERROR;
     const auto normal = [&](const icu::Normalizer2 *form) {
         std::string text;
         return form->normalize(Wide(s).c_str(), status).toUTF8String(text);
     };
-    EXPECT_EQ(u.normalize(ustring::NFC).c_str(), normal(icu::Normalizer2::getNFCInstance(status)));
-    EXPECT_EQ(u.normalize(ustring::NFD).c_str(), normal(icu::Normalizer2::getNFDInstance(status)));
+    both.Same("NFC", u.normalize(ustring::NFC), normal(icu::Normalizer2::getNFCInstance(status)));
+    both.Same("NFD", u.normalize(ustring::NFD), normal(icu::Normalizer2::getNFDInstance(status)));
 }
 
 /// A `ustring` finds nothing, not even an empty text, at or behind its end.
-void CheckSearches(const ustring &u, const std::string &s, const ustring::bytes &x,
-                   const std::string &plain, unsigned long pos) {
-    EXPECT_EQ(u.find(x, pos), pos < s.size() ? s.find(plain, pos) : s.npos);
-    EXPECT_EQ(u.rfind(x, pos), s.empty() ? s.npos : s.rfind(plain, std::min(pos, s.size() - 1)));
-    EXPECT_EQ(u.find_first_of(x, pos), s.find_first_of(plain, pos));
-    EXPECT_EQ(u.find_first_not_of(x, pos), s.find_first_not_of(plain, pos));
-    EXPECT_EQ(u.find_last_of(x, pos), s.find_last_of(plain, pos));
-    EXPECT_EQ(u.find_last_not_of(x, pos), s.find_last_not_of(plain, pos));
+void CompareSearches(Comparison &both, const ustring &u, const std::string &s,
+                     const ustring::bytes &x, const std::string &plain, unsigned long pos) {
+    const unsigned long last = std::min(pos, s.size() - 1);
+    both.Same("find", u.find(x, pos), pos < s.size() ? s.find(plain, pos) : s.npos);
+    both.Same("rfind", u.rfind(x, pos), s.empty() ? s.npos : s.rfind(plain, last));
+    both.Same("find_first_of", u.find_first_of(x, pos), s.find_first_of(plain, pos));
+    both.Same("find_first_not_of", u.find_first_not_of(x, pos), s.find_first_not_of(plain, pos));
+    both.Same("find_last_of", u.find_last_of(x, pos), s.find_last_of(plain, pos));
+    both.Same("find_last_not_of", u.find_last_not_of(x, pos), s.find_last_not_of(plain, pos));
 }
 
-void CheckOrder(const ustring &u, const std::string &s, const std::string &other, unsigned long n) {
+void CompareOrder(Comparison &both, const ustring &u, const std::string &s,
+                  const std::string &other, unsigned long n) {
     const ustring x(other);
     const std::string a = s.substr(0, n) + '\0', b = other.substr(0, n) + '\0';
     const auto differ = std::mismatch(a.begin(), a.end() - 1, b.begin(), b.end());
-    EXPECT_EQ(u.compare(x, n), uint8_t(*differ.first) - uint8_t(*differ.second));
-    EXPECT_EQ(std::tuple(u<x, u <= x, u == x, u != x, u >= x, u> x),
+    both.Same("compare", u.compare(x, n), uint8_t(*differ.first) - uint8_t(*differ.second));
+    both.Same("< <= == != >= >", std::tuple(u<x, u <= x, u == x, u != x, u >= x, u> x),
               std::tuple(s<other, s <= other, s == other, s != other, s >= other, s> other));
 }
 
 /// Edits both alike, with the text `x`, from `at` in the text that is there, and with `n` of it.
-void Edit(unsigned what, ustring &u, std::string &s, const std::string &x, unsigned long at,
-          unsigned long n) {
+/// Returns the edit's name.
+const char *Edit(unsigned which, ustring &u, std::string &s, const std::string &x, unsigned long at,
+                 unsigned long n) {
     ustring other(x);
     const unsigned short *const wide = other.c_str_utf16();
-    const unsigned long half = Wide(s).size() / 2;
+    const std::u16string old = Wide(s), add = Wide(x);
+    const unsigned long half = old.size() / 2;
     const char c = "/Ba"[n % 3];
     const auto unit = static_cast<unsigned short>(0xD7FE + n);  // most are surrogates
-    const std::function<void()> edits[] = {
-        [&] { u.append(x.c_str(), n), s.append(x, 0, n); },
-        [&] { u.append(other, 0, n), s.append(x, 0, n); },
-        [&] { u.append(s, at, n), s.append(s, at, n); },
-        [&] { u.append(wide, n), s = Narrow(Wide(s) + Wide(x).substr(0, n)); },
-        [&] { u.append(unit, n % 4), s = Narrow(Wide(s).append(n % 4, unit)); },
-        [&] { u.append(c, n % 8), s.append(n % 8, c); },
-        [&] { u += u, s += std::string(s); },
-        [&] { u.append(u.c_str() + at, n), s.append(s, at, n); },
-        [&] { u.append(u.c_str_utf16(), n), s = Narrow(Wide(s) + Wide(s).substr(0, n)); },
-        [&] { u.assign(x.c_str(), n), s.assign(x, 0, n); },
-        [&] { u.assign(x, 0, n), s.assign(x, 0, n); },
-        [&] { u.assign(wide, n), s = Narrow(Wide(x).substr(0, n)); },
-        [&] { u.assign(unit, n % 4), s = Narrow(std::u16string(n % 4, unit)); },
-        [&] { u.assign(c, n % 8), s.assign(n % 8, c); },
-        [&] { u.assign(u, at, n), s = s.substr(at, n); },
-        [&] { u.assign(u.c_str() + at, n), s = s.substr(at, n); },
-        [&] { u.assign(u.c_str_utf16() + half, n), s = Narrow(Wide(s).substr(half, n)); },
-        [&] { u = u + x.c_str() + c, s = s + x + c; },
-        [&] { u.trim(x), s.erase(s.find_last_not_of(x) + 1).erase(0, s.find_first_not_of(x)); },
-        [&] { u.replace(c, '.'), std::replace(s.begin(), s.end(), c, '.'); },
-        [&] { s.empty() || (u[n % s.size()] = s[n % s.size()] = c); },
-        [&] { swap(u, other), s = x; },
+    const std::u16string units(n % 4, unit);
+    const std::pair<const char *, std::function<void()>> edits[] = {
+        {"append text", [&] { u.append(x.c_str(), n), s.append(x, 0, n); }},
+        {"append ustring", [&] { u.append(other, 0, n), s.append(x, 0, n); }},
+        {"append string", [&] { u.append(s, at, n), s.append(s, at, n); }},
+        {"append units", [&] { u.append(wide, n), s = Narrow(old + add.substr(0, n)); }},
+        {"append unit", [&] { u.append(unit, n % 4), s = Narrow(old + units); }},
+        {"append byte", [&] { u.append(c, n % 8), s.append(n % 8, c); }},
+        {"append itself", [&] { u += u, s += std::string(s); }},
+        {"append own text", [&] { u.append(u.c_str() + at, n), s.append(s, at, n); }},
+        {"append own units",
+         [&] { u.append(u.c_str_utf16(), n), s = Narrow(old + old.substr(0, n)); }},
+        {"assign text", [&] { u.assign(x.c_str(), n), s.assign(x, 0, n); }},
+        {"assign string", [&] { u.assign(x, 0, n), s.assign(x, 0, n); }},
+        {"assign units", [&] { u.assign(wide, n), s = Narrow(add.substr(0, n)); }},
+        {"assign unit", [&] { u.assign(unit, n % 4), s = Narrow(units); }},
+        {"assign byte", [&] { u.assign(c, n % 8), s.assign(n % 8, c); }},
+        {"assign itself", [&] { u.assign(u, at, n), s = s.substr(at, n); }},
+        {"assign own text", [&] { u.assign(u.c_str() + at, n), s = s.substr(at, n); }},
+        {"assign own units",
+         [&] { u.assign(u.c_str_utf16() + half, n), s = Narrow(old.substr(half, n)); }},
+        {"operator+", [&] { u = u + x.c_str() + c, s = s + x + c; }},
+        {"trim",
+         [&] { u.trim(x), s.erase(s.find_last_not_of(x) + 1).erase(0, s.find_first_not_of(x)); }},
+        {"replace", [&] { u.replace(c, '.'), std::replace(s.begin(), s.end(), c, '.'); }},
+        {"operator[]", [&] { s.empty() || (u[n % s.size()] = s[n % s.size()] = c); }},
+        {"swap", [&] { swap(u, other), s = x; }},
     };
-    edits[what % std::size(edits)]();
+    const auto &[name, edit] = edits[which % std::size(edits)];
+    edit();
+    return name;
 }
 
-}  // namespace
-
-/// A series of edits, drawn from the input, on `ustring` and on what it is measured by: std::string
-/// and ICU's own string class. libFuzzer calls it, and so does a seeded generator below.
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
+/// Draws a series of edits from the input and makes them on `ustring` and on what it is measured
+/// by: std::string and ICU's own string class. Says where the two differ first, or nothing.
+std::string FirstDifference(const uint8_t *data, size_t size) try {
     // Together not always UTF-8, and at times longer than the buffers of a conversion.
     const std::string pieces[] = {
         "/",    "aB",           "\xC3\xA9",           "e\xCC\x81", "\xF0\x9F\x98\x80",
@@ -116,55 +141,84 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
             x += pieces[data[i] % std::size(pieces)];
         }
         const unsigned long pos = data[6] % 32U - 1, n = data[7] % 32U - 1;  // npos among them
-        Edit(data[0] / 6, u, s, x, std::min(pos, s.size()), n);
+        const std::string before = s;
+        const char *const edit = Edit(data[0] / 6, u, s, x, std::min(pos, s.size()), n);
         // Half the time a copy, so that an edit also meets a text without its UTF-16 form.
         const ustring copy(u);
-        CheckForms(pos % 2 == 0 ? u : copy, s);
-        CheckSearches(u, s, x.c_str(), x, pos);
-        CheckSearches(u, s, 'B', "B", pos);
-        CheckOrder(u, s, s.substr(0, n) + x, pos);
+        Comparison both;
+        CompareForms(both, pos % 2 == 0 ? u : copy, s);
+        CompareSearches(both, u, s, x.c_str(), x, pos);
+        CompareSearches(both, u, s, 'B', "B", pos);
+        CompareOrder(both, u, s, s.substr(0, n) + x, pos);
+        if (!both.difference.empty()) {
+            return both.difference + "\nafter " + edit + " in " + Comparison::Shown(before) +
+                   "\nwith " + Comparison::Shown(std::tuple(pos, n, x));
+        }
         data += 8;
     }
-    if (testing::Test::HasFailure()) {
+    return "";
+} catch (const std::exception &error) {
+    return std::string("an exception: ") + error.what();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
+    const std::string difference = FirstDifference(data, size);
+    if (!difference.empty()) {
+        std::cerr << "Failure: " << difference << std::endl;
         std::abort();  // so that libFuzzer keeps the input
     }
     return 0;
 }
 
 TEST(UstringTest, DoesWhatTheModelDoes) {
-    std::ostringstream said;
-    std::streambuf *const usual = std::cerr.rdbuf(said.rdbuf());
-    std::mt19937 random(1);
-    for (int round = 0; round < 3000; ++round) {
+    std::string difference;
+    unsigned seed = 0;
+    testing::internal::CaptureStderr();
+    while (difference.empty() && seed < 3000) {
+        std::mt19937 random(++seed);
         uint8_t input[200];
         std::generate(std::begin(input), std::end(input), std::ref(random));
-        LLVMFuzzerTestOneInput(input, random() % sizeof(input));
+        difference = FirstDifference(input, random() % sizeof(input));
     }
-    std::cerr.rdbuf(usual);
-    EXPECT_NE(said.str().npos, said.str().find("Warning: u_strFromUTF8: error code 10 at line "));
-    EXPECT_NE(said.str().npos, said.str().find("Warning: u_strToUTF8: error code 10 at line "));
+    const std::string said = testing::internal::GetCapturedStderr();
+    ASSERT_EQ(difference, "") << "seed " << seed;
+    EXPECT_NE(said.find("Warning: u_strFromUTF8: error code 10 at line "), said.npos);
+    EXPECT_NE(said.find("Warning: u_strToUTF8: error code 10 at line "), said.npos);
 }
 
-TEST(UstringTest, BuffersFitTheText) {
+TEST(UstringTest, BuffersShrinkWithTheText) {
     ustring s("abcdefghij");
     s = "abcd";
-    EXPECT_EQ(11, ustring_test_access::bytes(s));  // at most twice what the text takes
+    EXPECT_EQ(ustring_test_access::bytes(s), 11) << "at most twice what the text takes";
     s = "abc";
-    EXPECT_EQ(4, ustring_test_access::bytes(s));
-    EXPECT_THROW(s.append('x', ustring::npos), std::bad_alloc);
-    s.append('\0', 1).append('d', 1);
-    EXPECT_EQ(5, s.assign(s.c_str()).length());  // nothing changes
-    EXPECT_EQ(4, s.assign(s.c_str(), 4).length());
-    EXPECT_THROW(s.substr(5, 0), std::out_of_range);
+    EXPECT_EQ(ustring_test_access::bytes(s), 4);
+}
+
+TEST(UstringTest, ConversionsFitTheText) {
     const std::pair<unsigned short, unsigned long> texts[] = {{'x', 9}, {0xE9, 9}, {0xE9, 2000}};
     for (const auto &[unit, n] : texts) {
         ustring wide;
         wide.append(unit, n);
-        EXPECT_EQ(wide.length() + 1, ustring_test_access::bytes(wide));
+        EXPECT_EQ(ustring_test_access::bytes(wide), wide.length() + 1) << n << " of " << unit;
         const ustring narrow(wide.c_str());
         narrow.c_str_utf16();
-        EXPECT_EQ(n + 1, ustring_test_access::units(narrow));
+        EXPECT_EQ(ustring_test_access::units(narrow), n + 1) << n << " of " << unit;
     }
+}
+
+TEST(UstringTest, ThrowsBeyondItsEnds) {
+    ustring s("abc");
+    EXPECT_THROW(s.append('x', ustring::npos), std::bad_alloc);
+    EXPECT_THROW(s.substr(4, 0), std::out_of_range);
+}
+
+TEST(UstringTest, KeepsNulBytesWhenAssignedToItself) {
+    ustring s("abc");
+    s.append('\0', 1).append('d', 1);
+    EXPECT_EQ(s.assign(s.c_str()).length(), 5);
+    EXPECT_EQ(s.assign(s.c_str(), 4).length(), 4);
 }
 
 TEST(UstringTest, FoldsAsciiOnly) {

@@ -16,49 +16,53 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     WriteFile("disk/onto/\u00E9/\u00FC", "new");
     WriteFile("v/onto/e\u0301/u\u0308", "old");  // the same file, spelt otherwise
     WriteFile("disk/src/file", "3");
-    fs::create_symlink("file", "disk/src/link");  // it does not travel
+    fs::create_symlink("file", "disk/src/link");
     WriteFile("disk/late/file", "4");
     EXPECT_EQ(FSRename(fs::absolute("disk/\u00FC").c_str(), "v/dst", true), 0);
     EXPECT_EQ(FSRename("disk/onto", "v/onto", false), 0);
-    EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0);
-    EXPECT_EQ(FSRename("disk/src", "v/moved", false), -3);
-    EXPECT_EQ(FSRename("disk/src", "v/moved/file", false), -3);
-    EXPECT_EQ(FSRemove("/proc/version", false), -3);
-    EXPECT_EQ(FSRename("disk/late", "v/late", false), -3);
-    EXPECT_EQ(FSCopy("disk/late/file", "v/part", true), -2);
+    EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0) << "though it stays";
+    EXPECT_EQ(FSRename("disk/src", "v/moved", false), -3) << "the link is left";
+    EXPECT_EQ(FSRename("disk/src", "v/moved/file", false), -3) << "onto a file";
+    EXPECT_EQ(FSRename("disk/late", "v/late", false), -3) << "full";
+    EXPECT_EQ(FSCopy("disk/late/file", "v/part", true), -2) << "full";
     EXPECT_EQ(Tree("v"),
               "dst/ dst/sub/ dst/sub/e\u0301=1 late/ late/file= moved/ moved/file=3 onto/ "
               "onto/e\u0301/ onto/e\u0301/u\u0308=new part=");
     EXPECT_EQ(Tree("disk"), "late/ late/file=4 src/ src/link->file");
 }
 
-// On a Mac names are valid UTF-8 in any letter case, links are shorter, and a list is read ahead.
-TEST_F(VolumeTest, TakesWhatAMacRefuses) {
-    for (const char *file : {"bad/\xFE", "bad/\xFF", "e\u0301"}) {
+// On a Mac all names are valid.
+TEST_F(VolumeTest, RefusesNamesThatAreNotUtf8) {
+    for (const char *file : {"bad/\xFE", "bad/\xFF"}) {
         WriteFile(file, "text");
     }
     FILE_INFO info;
     EXPECT_EQ(GetFileInfo("bad/\xFF", info), -1);
-    EXPECT_EQ(info.exists, 1);
+    EXPECT_TRUE(info.exists);
     EXPECT_TRUE(Logged("FSPathMakeRef: -43\n"));
     EXPECT_EQ(FSRemove("bad", true), -3);
     EXPECT_EQ(Tree("bad"), "\xFE=text \xFF=text");
-    EXPECT_FALSE(IsFileExist("\u00C9", false));
-    // It opens and then refuses what is written.
-    EXPECT_EQ(FSCopy("e\u0301", "/proc/self/coredump_filter", false), -1);
+}
 
+TEST_F(VolumeTest, TellsWhatTheSystemRefuses) {
+    WriteFile("file", "text");
+    EXPECT_EQ(FSCopy("file", "/proc/self/coredump_filter", false), -1) << "it opens, no more";
+    EXPECT_EQ(FSRemove("/proc/version", false), -3);
+    // A Mac has no link as long as that, and reads a list ahead.
     ustring text;
     EXPECT_EQ(FSCreateSymbolicLink(std::string(1024, 'x'), "long"), 0);
     EXPECT_EQ(FSReadSymbolicLink("long", text), -1);
     DIR_HANDLE handle;
     DIR_ENTRY entry;
-    EXPECT_EQ(FSOpenDir("bad", 0, handle), 0);
+    EXPECT_EQ(FSOpenDir("disk", 0, handle), 0);
     close(dirfd(handle.dir));
     EXPECT_EQ(FSReadDir(handle, entry), -1);
     FSCloseDir(handle);
 }
 
-TEST_F(VolumeTest, FollowsTheRulesOfAMac) {
+TEST_F(VolumeTest, FindsAnyLetterCaseWhereAMacDoes) {
+    WriteFile("\u00E9", "");
+    EXPECT_FALSE(IsFileExist("\u00C9", false)) << "not on a volume of Linux";
     if (!MountMacVolume()) {
         GTEST_SKIP() << "this user cannot mount a volume with FUSE";
     }
@@ -76,23 +80,34 @@ TEST_F(VolumeTest, FollowsTheRulesOfAMac) {
     EXPECT_EQ(FSRename(OnVolume("foo"), "v/bar", false), 0);
     EXPECT_EQ(FSRemove("v/\u00FCBER", false), 0);
     EXPECT_EQ(Tree("disk"), "TWIN= bar= twin=");
+}
 
+TEST_F(VolumeTest, InstallsWithTheRulesOfAMac) {
+    if (!MountMacVolume()) {
+        GTEST_SKIP() << "this user cannot mount a volume with FUSE";
+    }
     int arguments = 0;
     const QCoreApplication application(arguments, nullptr);
     const ustring package = Service::GetRootLumarisResourceInstallPath() + "/package/lumaris.wpk";
-    const char *const installations[][4] = {
-        {"1", "\u00E9", "z", "0 readme=1"},
-        {"2", "e\u0301", "z", "0 readme=2"},
-        {"3", "\u00C9", "a/../../x", "-1 readme=2"}};  // the last is refused
-    for (const auto &[build, letter, last, outcome] : installations) {
+    const struct {
+        const char *build, *letter, *last_entry;
+        int result;
+        const char *installed;
+    } cases[] = {
+        {"1", "\u00E9", "z", 0, "readme=1"},
+        {"2", "e\u0301", "z", 0, "readme=2"},
+        {"3", "\u00C9", "a/../../x", -1, "readme=2"},  // refused at its end, and rolled back
+    };
+    for (const auto &row : cases) {
         // Names that differ only in case become one file here.
-        const std::string folder = std::string("Contents/Resources/") + letter + "/";
-        Entries entries = ClientPackage(build);
-        entries.insert(entries.end(),
-                       {{folder}, {folder + "README"}, {folder + "readme", build}, {last}});
+        const std::string folder = std::string("Contents/Resources/") + row.letter + "/";
+        Entries entries = ClientPackage(row.build);
+        entries.insert(
+            entries.end(),
+            {{folder}, {folder + "README"}, {folder + "readme", row.build}, {row.last_entry}});
         WritePackage(package.c_str(), entries);
-        const int result = MacService().PrepareUserEnv();
-        EXPECT_EQ(std::to_string(result) + " " + Tree(app / "Contents/Resources/E\u0301"), outcome);
+        EXPECT_EQ(MacService().PrepareUserEnv(), row.result) << row.build;
+        EXPECT_EQ(Tree(app / "Contents/Resources/E\u0301"), row.installed) << row.build;
     }
 }
 
