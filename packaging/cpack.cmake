@@ -16,6 +16,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 # Qt, ICU and libarchive are the system's.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "zstd, tar")  # what lumaris-pack calls
 # Debian wants the licences in a folder of its own choice, outside of the prefix.
 set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/debian-copyright.cmake)
 include(CPack)
