@@ -26,7 +26,7 @@ look_at_part() {
 
     linked=$(awk '$1 == "cmd" { load = $2 == "LC_LOAD_DYLIB" } load && $1 == "name" { print $2 }' \
         <<<"$commands" | grep -v -e '^/usr/lib/libSystem\.' -e '^/usr/lib/libc++' |
-        sed 's,.*/,,; s,\.dylib$,,' | sort)
+        sed 's,.*/,,; s,\.dylib$,,' | sort -u)
     expected=$(printf '%s\n' "$@" | sort)
     [ "$linked" = "$expected" ] ||
         die "$file ($architecture) links $(tr '\n' ' ' <<<"$linked"), not $*"
