@@ -59,12 +59,9 @@ int main() {
 
     const bool ignore = getenv("LUMARIS_CLIENT_IGNORE_SIGTERM") != nullptr;
     int received = 0;
-    for (;;) {
+    do {
         sigwait(&signals, &received);
-        if (!ignore) {
-            break;
-        }
-    }
+    } while (ignore);
     Note(logFile, "asked to end,");
     remove(pidFile.c_str());
     return 0;
