@@ -16,7 +16,7 @@ constexpr std::size_t kMaxPart = 255;
 constexpr std::size_t kMaxPath = 1024;
 constexpr std::size_t kMaxTarget = 1023;
 constexpr int kMaxLinks = 32;
-// Space for the folder of an installed bundle that was moved aside; 64 bytes are for the home
+// The longest path before a name, that of a bundle which was moved aside. 64 bytes are for the home
 // folder.
 constexpr std::size_t kRoomForPlace = 64 + sizeof("/.LumarisBackup/Lumaris.app_tmp9/");
 

@@ -14,8 +14,8 @@
 namespace {
 
 /// Starts a program in its own session and without standard streams: the client outlives the
-/// launcher and must not keep its output open. Signals that the launcher ignores get their default
-/// action back.
+/// launcher and must not keep the launcher's output open. Signals that the launcher ignores get
+/// their default action back.
 class DetachedStart {
 public:
     DetachedStart() {
