@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 # Compares formats and compressions of the package on one bundle: its size, the times to pack it, to
 # count its entries and to install it, and that time as a multiple of bsdtar's. Then flips bits in
-# packages of a small client, cuts them off, and counts what becomes of them. Prints the tables of
+# packages of a small client, cuts off their ends, and counts what becomes of them. Prints the tables of
 # docs/packages.md.
 # usage: bench/measure-formats.sh [BUILD_FOLDER [ROUNDS]]     default: build-release 5
 set -euo pipefail
