@@ -4,7 +4,7 @@
 #include "ustring.h"
 
 /// The size up to which the small text files of the home folder are read, in bytes.
-constexpr long kMaxTextFile = 1024 * 1024;
+constexpr long kMaxTextFile = 1024L * 1024;
 
 /// Opens a regular file with the flags of open(2), mode 0666 for O_CREAT. Child processes do not
 /// inherit the descriptor. The name may belong to a pipe or a device: that is refused at once,
