@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The cases of the table: what is measured, beside which peer, and the limit of the ratio."""
+"""The cases of the table: what is measured, against which peer, and the limit of the ratio."""
 
 from dataclasses import dataclass
 from pathlib import Path
@@ -14,7 +14,7 @@ from measure import Pair, Row, micro, printed, run, seconds, turns, until_client
 
 @dataclass
 class Case:
-    """A line of the table that is not measured yet."""
+    """A line of the table before it is measured."""
 
     what: str
     peer: str

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Measures the launcher beside what one would use instead. scripts/bench.sh calls it.
+"""Compares the launcher with the usual tools for the same work. scripts/bench.sh calls it.
 
 usage: compare.py BUILD WORK OTHER_VOLUME [CASE...]
-Prints each line of the table as soon as it is measured. CASE is a part of a case's title. Without it
-all cases run, and the tables and the plot in docs/ are replaced.
+Prints each line of the table as soon as it is measured. CASE is part of a case's title. Without it,
+runs all cases and replaces the tables and the plot in docs/.
 """
 
 import re

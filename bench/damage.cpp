@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Type and permissions with the content or the target, by name.
+/// The type, the permissions and the content or link target of each entry, by name.
 using Tree = std::map<std::string, std::string>;
 
 std::string ReadFile(const fs::path &path) {
@@ -30,9 +30,12 @@ Tree TreeOf(const fs::path &root) {
     Tree tree;
     for (const auto &entry : fs::recursive_directory_iterator(root)) {
         const fs::file_status status = entry.symlink_status();
-        const std::string content = entry.is_symlink()        ? fs::read_symlink(entry).native()
-                                    : entry.is_regular_file() ? ReadFile(entry)
-                                                              : std::string();
+        std::string content;
+        if (entry.is_symlink()) {
+            content = fs::read_symlink(entry).native();
+        } else if (entry.is_regular_file()) {
+            content = ReadFile(entry);
+        }
         tree[entry.path().lexically_relative(root).native()] =
             std::to_string(static_cast<int>(status.type())) + " " +
             std::to_string(static_cast<unsigned>(status.permissions())) + " " + content;
@@ -40,7 +43,7 @@ Tree TreeOf(const fs::path &root) {
     return tree;
 }
 
-/// What became of damaged packages.
+/// How many damaged packages were refused, installed unharmed and installed wrong.
 struct Outcome {
     int refused = 0, whole = 0, wrong = 0;
 };
@@ -54,20 +57,20 @@ public:
         m_whole = TreeOf(m_installed);
     }
 
-    /// Single bits, each somewhere else, spread over the whole package by chance.
+    /// Flips a single random bit, `count` times.
     Outcome Flips(int count) {
         Outcome outcome;
         std::uniform_int_distribution<std::size_t> place(0, m_bytes.size() * 8 - 1);
         for (int i = 0; i < count; ++i) {
             const std::size_t bit = place(m_random);
             std::string damaged = m_bytes;
-            damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << bit % 8));
+            damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << (bit % 8)));
             Install(damaged, outcome);
         }
         return outcome;
     }
 
-    /// At each of the last bytes, and by chance before them.
+    /// Cuts the package at each of its `last` bytes and at `others` random places before them.
     Outcome Cuts(std::size_t last, int others) {
         Outcome outcome;
         last = std::min(last, m_bytes.size());
@@ -91,8 +94,10 @@ private:
         extractor.m_dest_path = m_installed.c_str();
         if (extractor.Extract() != 0) {
             ++outcome.refused;
+        } else if (TreeOf(m_installed) == m_whole) {
+            ++outcome.whole;
         } else {
-            ++(TreeOf(m_installed) == m_whole ? outcome.whole : outcome.wrong);
+            ++outcome.wrong;
         }
     }
 
@@ -105,15 +110,15 @@ private:
 }  // namespace
 
 // usage: damage PACKAGE WORK_FOLDER FLIPS CUTS
-// Damages the package in many ways, installs what comes of it with the launcher's extractor and
-// prints how often it was refused, whole and wrong: after single flipped bits, and after cuts at
-// each of the last 2,000 bytes and at CUTS other places.
+// Damages the package in many ways, installs each result with the launcher's extractor and prints
+// how often it was refused, whole and wrong: first for single flipped bits, then for cuts at each
+// of the last 2,000 bytes and at CUTS other places.
 int main(int argc, char **argv) {
     if (argc != 5) {
         std::fprintf(stderr, "usage: damage PACKAGE WORK_FOLDER FLIPS CUTS\n");
         return 2;
     }
-    // What the extractor says of each would be thousands of lines.
+    // The extractor would log thousands of lines.
     if (std::freopen("/dev/null", "w", stderr) == nullptr) {
         return 1;
     }

@@ -29,7 +29,7 @@ void Extract() {
     }
 }
 
-/// A service that only extracts. Only an upgrade shows the dialog, so the other modes extract
+/// A service that only extracts. An upgrade would show the dialog, so the other modes extract
 /// before the decision.
 class ExtractingService : public Service {
 public:

@@ -5,8 +5,8 @@
 #include "extractor.h"
 
 // usage: extract-timing PACKAGE FOLDER
-// Prints the seconds that the launcher's extractor takes to count and to install the package, which
-// counts it again.
+// Prints how many seconds the launcher's extractor takes to count the entries of the package, and
+// to install it, which counts them again.
 int main(int argc, char **argv) {
     if (argc != 3) {
         std::fprintf(stderr, "usage: extract-timing PACKAGE FOLDER\n");

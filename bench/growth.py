@@ -12,7 +12,7 @@ ENTRIES = (1000, 10000, 100000)
 
 
 def draw(path: Path, times: list[float]) -> None:
-    # Imported late: the peak memory of a program starts at that of the process that starts it.
+    # Imported late: a program's peak memory is at least that of the process that started it.
     import matplotlib  # type: ignore[import] # Debian's package has no stubs
 
     matplotlib.use("svg")

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The material of the measurements. It lies in the work folder; each part is made when first needed."""
+"""The files that are measured. They are in the work folder; each is made when it is first needed."""
 
 import os
 import shutil
@@ -50,7 +50,7 @@ def zipped(name: str, client: Path) -> Path:
 
 
 def bare_client(name: str) -> Path:
-    """A client folder with what every package needs, and an empty `Contents/more`."""
+    """A client folder with the files that every package needs, and an empty `Contents/more`."""
     client = fresh(name) / "Lumaris.app"
     contents = client / "Contents"
     for folder in ("MacOS", "Resources", "more"):

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Compares formats and compression of the package on one bundle, side by side: size, the time to
-# pack, to count and to install it, and that time over what bsdtar takes for the same file. Then it
-# damages packages of a small client, bit by bit and cut by cut, and counts what is installed.
-# Prints the tables of docs/packages.md.
+# Compares formats and compressions of the package on one bundle: its size, the times to pack it, to
+# count its entries and to install it, and that time as a multiple of bsdtar's. Then flips bits in
+# packages of a small client, cuts off their ends, and counts what becomes of them. Prints the tables of
+# docs/packages.md.
 # usage: bench/measure-formats.sh [BUILD_FOLDER [ROUNDS]]     default: build-release 5
 set -euo pipefail
 export LC_ALL=C
@@ -12,7 +12,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(realpath "${1:-build-release}") rounds=${2:-5}
 readonly MIN_BYTES=$((80 * 1000 * 1000))
 readonly FLIPS=1000 CUTS=1000
-readonly CODINGS=(lumaris-pack "zstd -3 --check" "zstd -19 --check" zip "xz -6" cat)
+readonly FORMATS=(lumaris-pack "zstd -3 --check" "zstd -19 --check" zip "xz -6" cat)
 
 command -v bsdtar >/dev/null || { echo "measure-formats: install libarchive-tools" >&2; exit 1; }
 
@@ -21,8 +21,8 @@ pack=$build/packaging/lumaris-pack/lumaris-pack timing=$build/bench/extract-timi
 work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-measure.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 
-# The demo client with the larger ones of the libraries that its programs load besides Qt and ICU: a
-# bundle ships them when it cannot count on the machine it runs on.
+# stage APP: the demo client with the larger libraries that its programs load besides Qt and ICU. A real
+# bundle ships such libraries when it cannot rely on those of the machine.
 stage() {
     local app=$1 library
     packaging/demo/stage-client.sh 121 "$build/samples/client/lumaris-backup-ui" "$app" >/dev/null
@@ -40,14 +40,14 @@ bytes=$(find "$app" -type f -printf '%s\n' | awk '{ sum += $1 } END { printf "%d
 ((bytes >= MIN_BYTES)) || { echo "measure-formats: only $bytes bytes" >&2; exit 1; }
 echo "$(find "$app" | wc -l) entries, $bytes bytes, median of $rounds"
 
-seconds() { # seconds COMMAND...: how long it takes
+seconds() { # seconds COMMAND...: prints how long it takes
     local start=$EPOCHREALTIME
     "$@"
     awk -v from="$start" -v to="$EPOCHREALTIME" 'BEGIN { print to - from }'
 }
 
-# pack_as CODING APP PACKAGE: by lumaris-pack, by bsdtar, or by a command that compresses the tar of
-# lumaris-pack
+# pack_as FORMAT APP PACKAGE: packs with lumaris-pack, with bsdtar, or with a command that compresses the
+# tar that lumaris-pack made last
 pack_as() {
     case $1 in
         lumaris-pack)
@@ -60,50 +60,26 @@ pack_as() {
     esac
 }
 
-for i in "${!CODINGS[@]}"; do
-    packing[i]=$(seconds pack_as "${CODINGS[i]}" "$app" "$work/$i")
+for i in "${!FORMATS[@]}"; do
+    packing[i]=$(seconds pack_as "${FORMATS[i]}" "$app" "$work/$i")
     "$timing" "$work/$i" "$work/installed" >/dev/null
     diff -r --no-dereference "$app" "$work/installed"
 done
 
-# One round takes every coding in turn, so that other load on the machine meets all of them.
+# Each round measures every format once, so that other load on the machine affects all of them.
 for ((round = 1; round <= rounds; ++round)); do
-    for i in "${!CODINGS[@]}"; do
+    for i in "${!FORMATS[@]}"; do
         package=$work/$i
         rm -rf "$work/installed" "$work/peer"
         mkdir "$work/peer"
         read -r count install < <("$timing" "$package" "$work/installed")
         peer=$(seconds bsdtar -C "$work/peer" -xf "$package")
-        echo "${CODINGS[i]};$(stat -c %s "$package");${packing[i]};$count;$install;$peer"
+        echo "${FORMATS[i]};$(stat -c %s "$package");${packing[i]};$count;$install;$peer"
     done
-done > "$work/results"
+done | bench/format-table.py
 
-awk -F';' '
-    function median(list,    n, i, j, t, v) {
-        n = split(list, v, " ")
-        for (i = 2; i <= n; ++i)
-            for (j = i; j > 1 && v[j - 1] + 0 > v[j] + 0; --j) { t = v[j]; v[j] = v[j - 1]; v[j - 1] = t }
-        return v[int((n + 1) / 2)] + 0
-    }
-    !($1 in size) { keys[++rows] = $1 }
-    {
-        size[$1] = $2; packing[$1] = $3
-        counts[$1] = counts[$1] " " $4
-        installs[$1] = installs[$1] " " $5
-        ratios[$1] = ratios[$1] " " $5 / $6
-    }
-    END {
-        print "| made by | MB | pack, s | count, s | count and extract, s | over `bsdtar -xf` |"
-        print "|---|---|---|---|---|---|"
-        for (i = 1; i <= rows; ++i) {
-            key = keys[i]
-            printf "| `%s` | %.1f | %.1f | %.2f | %.2f | %.2f |\n", key, size[key] / 1e6,
-                   packing[key], median(counts[key]), median(installs[key]), median(ratios[key])
-        }
-    }' "$work/results"
-
-# A client of a few files with every kind of entry: what is damaged then is as often a name, a type
-# or permissions as content, and thousands of packages are installed in a minute.
+# A small client with every kind of entry: damage then hits a name, a type or permissions as often as
+# content, and thousands of packages can be installed in a minute.
 small=$work/small/Lumaris.app
 mkdir -p "$small/Contents/MacOS" "$small/Contents/Resources" "$small/Contents/Frameworks/A/Versions/5"
 cp "$build/samples/client/lumaris-backup-ui" "$small/Contents/MacOS/"
@@ -118,10 +94,10 @@ echo
 echo "| package | bytes | flips: refused | whole | wrong | cuts: refused | whole | wrong |"
 echo "|---|---|---|---|---|---|---|---|"
 mkdir "$work/damage"
-for coding in lumaris-pack zip "xz -6" cat; do
-    pack_as "$coding" "$small" "$work/small/package"
+for format in lumaris-pack zip "xz -6" cat; do
+    pack_as "$format" "$small" "$work/small/package"
     read -r refused whole wrong cut_refused cut_whole cut_wrong < <(
         "$build/bench/damage" "$work/small/package" "$work/damage" "$FLIPS" "$CUTS")
-    echo "| \`$coding\` | $(stat -c %s "$work/small/package") | $refused | $whole | $wrong |" \
+    echo "| \`$format\` | $(stat -c %s "$work/small/package") | $refused | $whole | $wrong |" \
         "$cut_refused | $cut_whole | $cut_wrong |"
 done

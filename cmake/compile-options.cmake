@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Options that hold for every target of the project.
+# Options for every target of the project.
 
 add_compile_options(-Wall -Wextra -Wshadow -Wformat=2 -Wconversion -Wsign-conversion
                     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -fno-common)
@@ -19,8 +19,8 @@ if(LUMARIS_SANITIZE)
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 
-# Limits the damage of faults, since the program reads archives: bounds are checked where the compiler
-# or the library knows them, and the tables through which functions are called are read-only.
+# The program reads archives, so limit what a fault can do: check bounds where the compiler or the
+# library knows them, and make the tables through which functions are called read-only.
 if(LUMARIS_HARDEN)
     add_compile_options(-fstack-protector-strong)
     add_compile_definitions(_FORTIFY_SOURCE=2 _GLIBCXX_ASSERTIONS)

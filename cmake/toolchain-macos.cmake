@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Compiles and links for macOS on a Linux machine, with what scripts/macos.sh lays out in the folder
-# LUMARIS_MACOS_KIT: a compiler, headers, and stubs of the libraries in place of the libraries.
-# LUMARIS_MACOS_PROCESSOR is x86_64 or aarch64.
+# Compiles and links for macOS on a Linux machine. scripts/macos.sh puts the compiler, the headers and
+# stubs of the libraries into the folder LUMARIS_MACOS_KIT. LUMARIS_MACOS_PROCESSOR is x86_64 or aarch64.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES LUMARIS_MACOS_KIT LUMARIS_MACOS_PROCESSOR)
 
 set(CMAKE_SYSTEM_NAME Darwin)
@@ -16,7 +15,7 @@ set(CMAKE_AR ${LUMARIS_MACOS_KIT}/bin/ar CACHE FILEPATH "")
 set(CMAKE_RANLIB ${LUMARIS_MACOS_KIT}/bin/ranlib CACHE FILEPATH "")
 set(CMAKE_INSTALL_NAME_TOOL ${LUMARIS_MACOS_KIT}/tools/install_name_tool CACHE FILEPATH "")
 
-# Nothing of the machine's own libraries may be found by chance.
+# Never find a library of this machine by accident.
 set(CMAKE_FIND_ROOT_PATH ${LUMARIS_MACOS_KIT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
@@ -32,5 +31,5 @@ foreach(library LibArchive:libarchive/lib/libarchive ICU:icu4c/lib/libicuuc)
 endforeach()
 set(ICU_UC_LIBRARY_RELEASE ${ICU_LIBRARY} CACHE FILEPATH "")
 
-# Headers of others, as <...>: without warnings of theirs, and never /usr/include as a whole.
+# As system headers, which cause no warnings. All of /usr/include would bring in those of Linux.
 add_compile_options(-isystem ${CMAKE_CURRENT_LIST_DIR}/macos/include)

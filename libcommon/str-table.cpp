@@ -39,7 +39,7 @@ QString LoadStr(int id) {
 int LookupStrID(QString key) {
     const QByteArray wanted = key.toLocal8Bit();
     for (int id = 0; id < kCount; ++id) {
-        // Before InitStrTable the keys are null, which qstricmp takes as different from any text.
+        // Before InitStrTable the keys are null; to qstricmp() null differs from any text.
         if (qstricmp(wanted.constData(), ktab[id]) == 0) {
             return id;
         }

@@ -14,8 +14,8 @@ inline constexpr int kPreparingText = 218;  // the label during an upgrade
 /// Fills the table; called once, before any other thread asks for a text.
 void InitStrTable();
 
-/// The text with that ID, translated by the translator that is installed at the moment of the
-/// call. Empty for an unknown ID and before `InitStrTable`. Any thread.
+/// The text with that ID, translated by the translator that is installed at the time of the call.
+/// Empty for an unknown ID and before `InitStrTable`. Any thread.
 QString LoadStr(int id);
 
 /// The ID of `key`, whatever its letter case; -1 when there is no such key.

@@ -23,7 +23,7 @@ constexpr int kLanguageCount = int(std::size(grgszLanguages)) - 1;
 
 const QString qstrLanguageFallSafe = QStringLiteral("enu");
 
-/// The code for an ISO 639-1 language; `languageForLocale` handles the countries that matter.
+/// The code for an ISO 639-1 language. `languageForLocale` handles the countries that differ.
 QString codeForLanguage(const QString &language) {
     const QMap<QString, QString> table = {
         {QStringLiteral("en"), QStringLiteral("enu")},

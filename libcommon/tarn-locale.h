@@ -10,8 +10,8 @@ namespace TarnLocale {
 /// The code of the embedded language that fits the system locale; "enu" when there is none.
 QString getDefaultLanguage();
 
-/// The code for a locale name in lower case, such as "zh_tw" or "pt", embedded or not. Systems
-/// differ in the names that they report.
+/// The code for a locale name in lower case, with or without a country ("zh_tw", "pt"), since
+/// systems differ in what they report. The language need not be embedded.
 QString languageForLocale(const QString &locale);
 
 /// Whether a translation for `code` is embedded in the program.

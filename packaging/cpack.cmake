@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What `cpack` makes of the installed files: a Debian package with the launcher and the tools. None for
-# macOS: the disk image there is made of a signed bundle, which cpack would not sign.
+# `cpack` makes a Debian package of the launcher and the tools. Nothing for macOS: the disk image there
+# needs a signed bundle, and cpack does not sign.
 if(APPLE)
     return()
 endif()
@@ -14,9 +14,9 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX /opt/lumaris)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
-# Qt, ICU and libarchive are the system's.
+# Depend on the Qt, ICU and libarchive of the system.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "zstd, tar")  # what lumaris-pack calls
-# Debian wants the licences in a folder of its own choice, outside of the prefix.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "zstd")  # which lumaris-pack calls
+# Debian expects the licences outside of the prefix.
 set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/debian-copyright.cmake)
 include(CPack)

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Measures the launcher (release build) beside what one would use instead, prints the results and
-# writes them to docs/performance.md. Keep only results from a machine with nothing else to do.
-# usage: scripts/bench.sh [CASE...]     CASE: a part of a case's title; the page then stays as it is
+# Compares the launcher (release build) with the usual tools for the same work, prints the results and
+# writes them to docs/performance.md. Keep only results from an otherwise idle machine.
+# usage: scripts/bench.sh [CASE...]     CASE: part of a case's title; the page then stays as it is
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 install_packages "${PACKAGES[@]}" libarchive-tools python3-matplotlib

@@ -5,7 +5,7 @@
 # usage: scripts/check-format.sh [--fix]     --fix: formats the sources instead
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-# The first clang-format that writes braces around single statements is 15.
+# clang-format writes braces around single statements since version 15.
 install_packages "${PACKAGES[@]}" git clang-format-16 clang-tidy black pyflakes3 mypy shellcheck
 
 mapfile -t sources < <(git ls-files '*.cpp' '*.h')
@@ -20,15 +20,15 @@ without_licence=$(git grep -L 'SPDX-License-Identifier: MIT' -- '*.cpp' '*.h' '*
     '*CMakeLists.txt' || true)
 [ -z "$without_licence" ] || die "no SPDX line: $without_licence"
 clang-format-16 --dry-run --Werror "${sources[@]}"
-say "format: ${#sources[@]} files are as clang-format leaves them"
+say "C++: ${#sources[@]} files are formatted (clang-format)"
 black -q -l 100 --check "${python[@]}"
 pyflakes3 "${python[@]}"
 mypy --no-error-summary "${python[@]}"
-say "Python: ${#python[@]} files are as black leaves them, and pass pyflakes and mypy"
+say "Python: ${#python[@]} files are formatted (black), and pass pyflakes and mypy"
 shellcheck --severity=warning "${shell[@]}"
 say "shell: ${#shell[@]} scripts pass shellcheck"
 
-# The database of the development build says how each file is compiled; moc's output is needed too.
+# The analysis needs the compile commands and moc's output of the development build.
 build dev
 mapfile -t units < <(git ls-files 'lib/*.cpp' 'libcommon/*.cpp' 'ui-client/*.cpp' 'packaging/*.cpp' \
     'samples/*.cpp' 'scripts/*.cpp' 'bench/*.cpp' 'tests/*.cpp' | grep -v -e '_mac\.cpp$' -e '^tests/fuzz/')

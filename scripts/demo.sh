@@ -21,7 +21,7 @@ BUILD=$ROOT/build
 DEMO=$BUILD/demo
 # shellcheck disable=SC2034 # for demo/stage.sh and demo/acts.sh
 PACK=$BUILD/packaging/lumaris-pack/lumaris-pack
-# shellcheck disable=SC2034 # likewise
+# shellcheck disable=SC2034 # for demo/stage.sh and demo/acts.sh
 CLIENT=$BUILD/samples/client/lumaris-backup-ui
 # shellcheck disable=SC2034 # for demo/launch.sh and demo/languages.sh
 WATCH=$BUILD/scripts/dialog-watch/dialog-watch
@@ -29,14 +29,15 @@ export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset LUMARIS_CLIENT_IGNORE_SIGTERM
 source scripts/sanitizers.sh
 for part in stage launch acts languages; do
-    # shellcheck source=/dev/null # each is checked by itself
+    # shellcheck source=/dev/null # each is checked separately
     source "scripts/demo/$part.sh"
 done
 
 mkdir -p "$DEMO"
 WORK=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-demo.XXXXXX")
 
-# Ends what still runs, launchers and clients from the work folder included, then removes that.
+# Ends everything that still runs, including launchers and clients from the work folder, and removes
+# the folder.
 clean_up() {
     stop_display
     local process
@@ -55,7 +56,7 @@ fail() { die "act $ACT: $*"; }
 check() { # check "what is true" COMMAND...
     local what=$1
     shift
-    "$@" >/dev/null 2>&1 || fail "not so: $what"
+    "$@" >/dev/null 2>&1 || fail "not true: $what"
     say "  ok: $what"
 }
 
@@ -65,7 +66,7 @@ for ACT in "${acts[@]}"; do
         [1-7] | languages) "act_$ACT" ;;
         *) die "there is no act '$ACT'" ;;
     esac
-    # A client of one act does not keep running into the next.
+    # No client runs on into the next act.
     clients=$(client_pid || true)
     [ -z "$clients" ] || kill -9 "$clients" 2>/dev/null || true
 done

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs the fuzz targets of tests/fuzz, as many at once as there are cores. Earlier findings are
-# replayed first; what is found now is kept in build-fuzz/findings.
-# usage: scripts/fuzz.sh [SECONDS] [TARGET...]     default: 60 seconds for each of the targets
+# Runs the fuzz targets of tests/fuzz, as many at once as there are cores. Replays earlier findings
+# first and keeps new ones in build-fuzz/findings.
+# usage: scripts/fuzz.sh [SECONDS] [TARGET...]     default: 60 seconds for each target
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 source scripts/sanitizers.sh
 
@@ -17,16 +17,16 @@ targets=("$@")
 install_packages "${PACKAGES[@]}" clang libclang-rt-dev llvm bubblewrap
 build fuzz
 
-# Many times faster than the whole stacks that the other instrumented programs keep.
+# Fast unwinding may lose part of a stack, but makes fuzzing many times faster.
 ASAN_OPTIONS+=:fast_unwind_on_malloc=1:quarantine_size_mb=8
 export ASAN_SYMBOLIZER_PATH=/usr/bin/llvm-symbolizer
 FINDINGS=$ROOT/build-fuzz/findings
 WORK=$(mktemp -d "$ROOT/build-fuzz/work.XXXXXX")
 trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$WORK"' EXIT
 
-# A package may write through links wherever the user can: here that is one small tmpfs and the
-# target's own work folder. Without a PATH, libarchive finds none of the programs that it would
-# start for rare filters, so that a run means the same on every machine.
+# A package may write through links to wherever the user can write. Here that is only a small tmpfs and
+# the target's own work folder. Without a PATH, libarchive cannot start the programs that it uses for
+# rare filters, so a run means the same on every machine.
 sandboxed() { # sandboxed TARGET ARGUMENT...
     local target=$1
     shift
@@ -38,7 +38,7 @@ sandboxed() { # sandboxed TARGET ARGUMENT...
         -handle_xfsz=0 -artifact_prefix=/mnt/work/ "$@"
 }
 
-fuzz() { # fuzz TARGET: prints its closing line; its status is 1 when something was found
+fuzz() { # fuzz TARGET: prints a summary; returns 1 when something was found
     local target=$1 log=$WORK/$1.log status=0 crashes=() corpus=(/mnt/work/corpus)
     [ ! -d "$ROOT/tests/fuzz/corpus/$target" ] || corpus+=("$ROOT/tests/fuzz/corpus/$target")
     coverage() { grep -o 'cov: [0-9]* ft: [0-9]*' "$log" | "$1" -n 1; }
@@ -58,9 +58,9 @@ fuzz() { # fuzz TARGET: prints its closing line; its status is 1 when something 
     return 1
 }
 
-# Some containers forbid it; nothing here runs without.
+# Some containers forbid user namespaces, and nothing here runs without.
 if ! bwrap --unshare-user --unshare-net --ro-bind / / true; then
-    say "left out: this machine has no user namespaces to fuzz in"
+    say "skipped: this machine has no user namespaces to fuzz in"
     exit
 fi
 failed=0

@@ -17,7 +17,7 @@ PACKAGES=(
     fonts-liberation fonts-noto-cjk
 )
 
-# For the preset qt6; the demo client is still made of files of Qt 5.
+# For the preset qt6, in addition: the demo client is always made of files from Qt 5.
 # shellcheck disable=SC2034 # for test.sh
 QT6_PACKAGES=(qt6-base-dev qt6-base-dev-tools qt6-l10n-tools)
 
@@ -30,7 +30,7 @@ die() {
 
 DISPLAY_PIDS=()
 
-# install_packages NAME...: installs those that are missing; as an ordinary user it only names them.
+# install_packages NAME...: installs those that are missing; without root it names them and fails.
 install_packages() {
     local package missing=()
     for package in "$@"; do
@@ -45,15 +45,15 @@ install_packages() {
         "${missing[@]}" >/dev/null
 }
 
-# build PRESET: configures and builds; a second call only builds what changed.
+# build PRESET: configures and builds what has changed.
 build() {
     say "building ($1)"
     cmake --preset "$1" >/dev/null
     cmake --build --preset "$1"
 }
 
-# start_display FOLDER: brings up a display of our own in DISPLAY, with its picture in
-# FOLDER/Xvfb_screen0 and a window manager for the title bar. stop_display ends both.
+# start_display FOLDER: starts a display of our own, with its screen in FOLDER/Xvfb_screen0, and a window
+# manager for the title bar; sets DISPLAY. stop_display ends both.
 start_display() {
     mkdir -p "$1"
     Xvfb -displayfd 3 -fbdir "$1" -screen 0 640x360x24 -nocursor -nolisten tcp \

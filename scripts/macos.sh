@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Compiles and links everything for macOS, for both processors, and the tests for one of them. Then it
-# installs the bundle as for a release, over stand-ins for the libraries, joins both into a universal one
-# and looks at what came out. All of it on Linux: built, linked and deployed here, run nowhere yet.
-# Everything lies in build-macos.
+# Compiles and links everything for macOS on Linux, for both processors, and the tests for one of them.
+# Then installs the bundles as for a release, with stand-ins for the libraries, joins them into a
+# universal one and checks the result. Nothing of it has run on a Mac yet. All files are in build-macos.
 # usage: scripts/macos.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -18,10 +17,10 @@ LIBRARIES=/usr/lib/x86_64-linux-gnu
 APP=$OUT/LumarisLauncher.app
 source scripts/macos/kit.sh
 source scripts/macos/look.sh
-export PATH=$KIT/tools:$PATH # the tools of macOS, under their names there
+export PATH=$KIT/tools:$PATH # LLVM's tools under their macOS names
 
-# build_for PROCESSOR TESTS TARGET...: with the tests if TESTS is ON. Warnings are errors, as in the
-# development build.
+# build_for PROCESSOR TESTS TARGET...: builds, with the tests if TESTS is ON. Warnings are errors, as in
+# the development build.
 build_for() {
     say "building for $1"
     cmake -S . -B "$OUT/$1" -G Ninja --toolchain cmake/toolchain-macos.cmake \
@@ -33,13 +32,13 @@ build_for() {
     cmake --build "$OUT/$1" --target "${@:3}"
 }
 
-# install_for PROCESSOR FOLDER: the bundle with every library that it needs
+# install_for PROCESSOR FOLDER: installs the bundle with every library that it needs
 install_for() {
     cmake --install "$OUT/$1" --component launcher --prefix "$2" >"$OUT/install.log" 2>&1 ||
         die "$(grep -m 1 -e error: -e 'there is no' "$OUT/install.log" || tail -n 20 "$OUT/install.log")"
 }
 
-# universal PROGRAM OUTPUT: one file for both processors
+# universal PROGRAM OUTPUT: joins the programs for both processors
 universal() {
     lipo -create "$OUT/x86_64/$1" "$OUT/aarch64/$1" -output "$2"
 }
@@ -48,14 +47,14 @@ universal() {
 command -v npm >/dev/null || PACKAGES+=(npm)
 install_packages "${PACKAGES[@]}" llvm-14 libplist-utils
 
-# This bundle is only looked at, so it carries the demo client's package.
+# This bundle is only inspected, so the package of the demo client will do.
 build dev
 PACKAGE=$ROOT/build/packaging/bundle/package
 mkdir -p "$OUT"
 fetch_compiler
 lay_out_kit
 build_for x86_64 OFF bundle packaging/lumaris-pack/all
-build_for aarch64 ON all # once is enough to see that tests and benchmarks compile and link
+build_for aarch64 ON all # tests and benchmarks need to compile and link only once
 for processor in "${PROCESSORS[@]}"; do
     install_for "$processor" "$OUT/stage-$processor"
 done

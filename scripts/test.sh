@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds and runs every test; with --long those that have more to look at
-# than a quick run can, which takes hours.
+# Installs missing packages, builds and runs all tests. --long runs the stress and sweep tests only, and
+# in full, which takes hours.
 # usage: scripts/test.sh [--long] [PRESET]     PRESET: dev (default), release, qt6, asan or tsan
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 

@@ -51,7 +51,7 @@ const std::vector<Path> &Paths() {
         std::vector<Path> result;
         for (const std::string &text :
              {home + "/ui.pid", home + "/log/launcher.log_48", home + "/Lumaris.app_tmp9",
-              home + resources + "INFO", home + resources + "pt_BR.lproj/InfoPlist.strings",
+              home + resources + "INFO", home + resources + "pt-BR.lproj/InfoPlist.strings",
               home + "/Lumaris.app/Contents/Frameworks/QtWidgets.framework/Versions/5/QtWidgets",
               home + "/Lumaris.app/Contents/Frameworks/plugins/imageformats/libqjpeg.so",
               std::string("/Users/bob/Documents"), other + "/ui.pid", other + resources + "INFO",

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# GoogleTest for toolchain-macos.cmake: its own sources, which Debian ships beside the library.
+# GoogleTest for toolchain-macos.cmake, built from the sources that Debian ships.
 set(sources /usr/src/googletest/googletest)
 foreach(name gtest gtest_main)
     add_library(${name} STATIC ${sources}/src/gtest_main.cc)

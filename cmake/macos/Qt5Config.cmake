@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Qt for toolchain-macos.cmake: the headers and the tools of this machine's Qt 5, and stand-ins of the
-# frameworks and the plug-ins.
+# Qt for toolchain-macos.cmake: the headers and tools of this machine's Qt 5, and stand-ins for its
+# frameworks and plug-ins.
 set(Qt5_VERSION 5.15)
 set(Qt5Core_VERSION_MAJOR 5)
 set(Qt5Core_VERSION_MINOR 15)
@@ -18,7 +18,7 @@ endforeach()
 target_link_libraries(Qt5::Gui INTERFACE Qt5::Core)
 target_link_libraries(Qt5::Widgets INTERFACE Qt5::Gui)
 target_link_libraries(Qt5::Test INTERFACE Qt5::Core)
-# The header for tests declares more where these say that there are windows.
+# Without these QtTest declares nothing that deals with windows.
 target_compile_definitions(Qt5::Widgets INTERFACE QT_GUI_LIB QT_WIDGETS_LIB)
 
 foreach(plugin QCocoaIntegrationPlugin:platforms/libqcocoa

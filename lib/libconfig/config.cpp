@@ -21,7 +21,7 @@ bool is_key_char(char c) {
            c == '-' || c == '.';
 }
 
-/// The NUL that ends the line is one; bytes from 128 up are not.
+/// True also for the NUL that ends the line, and false for bytes from 128 up.
 bool is_control(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
 }
@@ -75,24 +75,24 @@ int Config::parse(char *line, int /*length*/, ustring &key, ustring &value) {
     }
 
     char *const equals = skip_blanks(key_end);
-    char *p = *equals == '=' ? skip_blanks(equals + 1) : equals;
-    if (*equals != '=' || *p == '\0') {
+    if (*equals != '=' || *skip_blanks(equals + 1) == '\0') {
         return 2;
     }
 
-    const char quote = *p;
-    const bool quoted = quote == '"' || quote == '\'';
-    char *const value_begin = quoted ? ++p : p;
-    while (!is_control(*p) && *p != (quoted ? quote : ' ')) {
-        ++p;
+    char *const text = skip_blanks(equals + 1);
+    const bool quoted = *text == '"' || *text == '\'';
+    const char end_mark = quoted ? *text : ' ';
+    char *const value_begin = quoted ? text + 1 : text;
+    char *value_end = value_begin;
+    while (!is_control(*value_end) && *value_end != end_mark) {
+        ++value_end;
     }
-    if (quoted && *p != quote) {
+    if (quoted && *value_end != end_mark) {
         return 2;
     }
 
-    char *const value_end = p;
-    p = skip_blanks(quoted ? p + 1 : p);
-    if (*p != '\0' && *p != '#') {
+    const char *const rest = skip_blanks(quoted ? value_end + 1 : value_end);
+    if (*rest != '\0' && *rest != '#') {
         return 2;
     }
 

@@ -12,8 +12,8 @@
 class Config : public std::map<ustring, ustring> {
 public:
     /// Adds every key of the file at `path`. Later keys replace earlier ones; entries of earlier
-    /// reads stay. Returns 0, or -1 when the path is empty, the file cannot be opened, is no regular
-    /// file or is larger than 1 MiB, or a line is malformed, which also empties the map.
+    /// reads stay. Returns 0, or -1 when the path is empty, the file cannot be opened, is no
+    /// regular file or is larger than 1 MiB, or a line is malformed, which also empties the map.
     int read(const ustring &path);
 
     /// Parses one NUL-terminated line of `length` bytes and writes NUL bytes after its key and its

@@ -95,7 +95,7 @@ int file_op::MakeFolder(Place &place, bool recursive) {
     if (!info.exists && mkdir(place.system.c_str(), 0777) != 0) {
         error = errno;
     }
-    // The walk makes a call for each level, so it only follows when a single mkdir() has failed.
+    // The walk makes a system call for each level, so try it only after a single mkdir() failed.
     if (error != 0 && recursive) {
         unsigned long end = 0;
         error = MakeLevels(place, end, false, kNoMode);

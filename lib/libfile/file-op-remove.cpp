@@ -28,8 +28,10 @@ int RemoveContents(const Place &place, const Folder &folder) {
     for (const DIR_ENTRY &entry : entries) {
         const Place child = place.Child(entry.name);
         // Some file systems list entries without their types.
-        const bool described = entry.type == FILE_TYPE_NONE || entry.type == FILE_TYPE_DIRECTORY;
-        if ((described ? RemoveEntry(child) : RemoveListed(folder, entry.name, child)) != 0) {
+        const bool maybe_folder = entry.type == FILE_TYPE_NONE || entry.type == FILE_TYPE_DIRECTORY;
+        const int result =
+            maybe_folder ? RemoveEntry(child) : RemoveListed(folder, entry.name, child);
+        if (result != 0) {
             return -3;
         }
     }

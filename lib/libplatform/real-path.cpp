@@ -3,8 +3,7 @@
 
 namespace {
 
-/// An entry that is replaced again and again loses its path each time between two system calls.
-/// After so many attempts it counts as missing.
+/// After so many attempts, an entry that is replaced again and again counts as missing.
 constexpr int kAttempts = 50;
 
 }  // namespace

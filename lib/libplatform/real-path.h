@@ -11,8 +11,8 @@ constexpr unsigned int kRealPathSize = 4096;
 constexpr int kRealPathMissing = -43;
 constexpr int kRealPathTooLong = -2110;
 
-/// What `RealPathOnce` says of an entry that was there and lost its path between two system calls,
-/// because it was removed or replaced. No status of macOS is positive.
+/// What `RealPathOnce` returns when the entry was removed or replaced between two of its system
+/// calls. Positive, because no status of macOS is.
 constexpr int kRealPathVanished = 1;
 
 /// Whether a final symbolic link in a path stands for itself or for its target.
@@ -23,6 +23,6 @@ enum class Leaf { kItself, kTarget };
 /// system calls need. Returns 0, or a negative status with `real` empty.
 int RealPath(const ustring &path, Leaf leaf, ustring &real);
 
-/// One attempt at that, the part that differs by system: 0, a negative status or
-/// `kRealPathVanished`. `real` counts only with 0.
+/// A single attempt of `RealPath`, which differs by system. Returns 0, a negative status or
+/// `kRealPathVanished`; `real` is valid only after 0.
 int RealPathOnce(const ustring &path, Leaf leaf, ustring &real);

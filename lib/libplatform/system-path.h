@@ -9,8 +9,8 @@
 // treats them as the same name. Elsewhere names are bytes, and a system call finds an entry only
 // under the spelling in which it is stored.
 
-/// The spelling of `path` that system calls need: existing components as they are stored, where the
-/// same bytes win over an equivalent spelling, and missing ones unchanged. Never fails.
+/// The spelling of `path` that system calls need: existing components as they are stored, missing
+/// ones unchanged. An exact match wins over an equivalent spelling. Never fails.
 ustring SystemPath(const ustring &path);
 
 /// lstat() for any spelling of `path`, which afterwards has the spelling that system calls need. A

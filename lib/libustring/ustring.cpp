@@ -244,7 +244,7 @@ ustring &ustring::assign(const char *s, unsigned long n) {
         clear();
         return append(s, n);
     }
-    if (s != m_data) {  // the whole text keeps its NUL bytes, a part of it ends at the first
+    if (s != m_data) {  // the whole text keeps its NUL bytes; a part ends at its first one
         n = strnlen(s, n);
     }
     if (n < m_data_len) {

@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Follows every load path of every program and library in a bundle: each must end at a file of the
-# bundle or in a folder of the system, else the program dies at its start, on other machines at least.
+# Checks every load path of every program and library in a bundle: each must lead to a file in the
+# bundle or to a library of the system. Otherwise the program cannot start, at least on other machines.
 # usage: check-loads.sh BUNDLE
 source "$(dirname "${BASH_SOURCE[0]}")/mach-o.sh"
 [ $# -eq 1 ] || { echo "usage: check-loads.sh BUNDLE" >&2; exit 2; }
-[ -d "$1/Contents/MacOS" ] || die "$1 is no bundle"
+[ -d "$1/Contents/MacOS" ] || die "$1 is not a bundle"
 need otool
 bundle=$(cd "$1" && pwd)
 
-# loads FILE: the paths of the libraries that it loads, for every processor that it is made for. Its
-# own name, which the list of a library begins with, is left out.
+# loads FILE: prints the paths of the libraries that it loads, for every processor. The list of a
+# library starts with its own name, which is left out.
 loads() {
     local own
     own=$(otool -arch all -D "$1" | grep -v ':$' | sort -u || true)
@@ -18,14 +18,14 @@ loads() {
         grep -vxF -- "${own:-none}" | sort -u || true
 }
 
-# check_load FILE PATH
+# check_load FILE PATH: fails unless PATH, as FILE loads it, leads to a file of the bundle or the system
 check_load() {
     local target
     case $2 in
     /usr/lib/* | /System/Library/*) return ;;
     @executable_path/*) target=$bundle/Contents/MacOS/${2#@executable_path/} ;;
     @loader_path/*) target=$(dirname "$1")/${2#@loader_path/} ;;
-    *) die "${1#"$bundle/"} loads $2, which is neither in the bundle nor the system's" ;;
+    *) die "${1#"$bundle/"} loads $2, which is neither in the bundle nor in the system" ;;
     esac
     target=$(cd "$(dirname "$target")" 2>/dev/null && pwd -P)/$(basename "$target") || target=none
     case $target in
@@ -45,4 +45,4 @@ while IFS= read -r file; do
     done <<< "$(loads "$file")"
 done < <(find "$bundle" -type f)
 [ "$paths" -gt 0 ] || die "$1 holds no program for macOS"
-echo "$(basename "$bundle"): $paths load paths of $files programs and libraries end in it or in the system"
+echo "$(basename "$bundle"): $paths load paths of $files binaries all lead into it or the system"

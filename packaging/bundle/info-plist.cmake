@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Writes CONTENTS/Info.plist with the version of the package that the bundle carries, as its INFO
-# says: an update with the version of the last one would not be seen as one.
+# Writes CONTENTS/Info.plist with the version in the package's INFO file: macOS recognises an update
+# by its version.
 # usage: cmake -D CONTENTS=FOLDER -D MINIMUM=OLDEST_MACOS -P info-plist.cmake
 set(info ${CONTENTS}/Resources/INFO)
 foreach(part major minor build)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# Shared by the scripts that look into a bundle for macOS; sourced, not run. They call the tools by
-# their names there, so that they do the same here with LLVM's under these names.
+# Shared by the scripts that inspect a macOS bundle; sourced, not run. The scripts call the tools by
+# their macOS names; on Linux LLVM's tools stand in under these names.
 set -euo pipefail
 
 die() {
@@ -17,7 +17,7 @@ is_mach_o() {
     esac
 }
 
-# need TOOL...: says which one is missing
+# need TOOL...: fails when one is missing
 need() {
     local tool
     for tool in "$@"; do

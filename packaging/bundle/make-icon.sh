@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Draws the icon of the dialog and the one of the bundle from ico_72_lumaris.svg. Both are kept beside
-# it, so that a build needs no tools for it.
+# Draws the icons of the dialog and of the bundle from ico_72_lumaris.svg. Both are kept in the
+# repository, so that a build needs no drawing tools.
 # usage: packaging/bundle/make-icon.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/lib.sh"
 

@@ -1,20 +1,19 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Puts together a client bundle to package, install and start in demonstrations and measurements:
-# as large and as mixed as a real one, made only of files that come with qtbase5-dev and libicu-dev.
+# Builds a client bundle to package, install and start in demonstrations and measurements. It is as
+# large and varied as a real one, but made only of files from qtbase5-dev and libicu-dev.
 #
 #   stage-client.sh BUILD CLIENT_EXECUTABLE OUT_APP
 #
-# OUT_APP is replaced when it is an earlier bundle; nothing is left half-built.
+# Replaces an earlier bundle at OUT_APP; a failure leaves nothing half-built.
 set -euo pipefail
-export LC_ALL=C QT_SELECT=qt5  # qmake is that of Qt 5, whatever else is installed
+export LC_ALL=C QT_SELECT=qt5  # the qmake of Qt 5, even when Qt 6 is installed, too
 
 readonly FRAMEWORKS=(Core Gui Widgets Network DBus)
 readonly HEADERS=(Widgets Network)
 readonly ICU_LIBRARIES=(data uc i18n)
 readonly PLUGINS=(bearer egldeviceintegrations generic imageformats platforminputcontexts platforms
                   printsupport sqldrivers xcbglintegrations)
-readonly LANGUAGES=(cs da de en es fr hu it ja ko nl no pl pt_BR pt_PT ru sv tr zh_CN zh_TW)
 
 fail() {
     printf 'stage-client: %s\n' "$*" >&2
@@ -30,6 +29,9 @@ if [[ -e $out || -L $out ]]; then
     [[ -d $out/Contents || -z $(ls -A "$out") ]] || fail "'$out' exists and is not a bundle"
 fi
 
+# The launcher's languages, so that they are listed in one place.
+languages=$(sed -n '/<array>/,/<\/array>/s/.*<string>\(.*\)<\/string>/\1/p' \
+    "$(dirname "${BASH_SOURCE[0]}")/../bundle/Info.plist.in")
 libs=$(qmake -query QT_INSTALL_LIBS) || fail "qmake does not run; install qtbase5-dev"
 plugins=$(qmake -query QT_INSTALL_PLUGINS)
 headers=$(qmake -query QT_INSTALL_HEADERS)
@@ -40,7 +42,7 @@ trap 'rm -rf "$stage"' EXIT
 readonly contents=$stage/Contents
 readonly frameworks=$contents/Frameworks resources=$contents/Resources
 
-# copy_library FILE NEW_PATH: the file behind a development link, with the permissions of a program
+# copy_library FILE NEW_PATH: copies the file behind a development link and makes it executable
 copy_library() {
     [[ -f $1 ]] || fail "'$1' is missing; install qtbase5-dev and libicu-dev"
     install -D -m 755 "$1" "$2"
@@ -74,7 +76,7 @@ done
 for name in "${HEADERS[@]}"; do
     folder=$frameworks/Qt$name.framework
     mkdir "$folder/Versions/5/Headers"
-    # Plain files only: private headers, from another package, lie in folders beside them.
+    # Plain files only: the subfolders hold private headers, which another package installs.
     find "$headers/Qt$name" -maxdepth 1 -type f \
         -exec install -m 644 -t "$folder/Versions/5/Headers" {} +
     ln -s Versions/Current/Headers "$folder"
@@ -88,12 +90,13 @@ for name in "${PLUGINS[@]}"; do
     install -D -m 755 -t "$frameworks/plugins/$name" "$plugins/$name"/*.so
 done
 
-for name in "${LANGUAGES[@]}"; do
+for name in $languages; do
     mkdir -p "$resources/$name.lproj"
     echo 'CFBundleName = "Lumaris Backup";' > "$resources/$name.lproj/InfoPlist.strings"
 done
 
-# The names that go wrong first: composed, decomposed, no Latin letter, longer than a tar header.
+# Names that are likely to break: a composed and a decomposed umlaut, Japanese, and one that is too
+# long for the name field of a tar header.
 mkdir "$resources/help" "$contents/PlugIns"
 printf -v long '%0120d' 0
 for name in $'\xc3\x9cbersicht' $'Gru\xcc\x88\xc3\x9fe' "$long" \
@@ -107,7 +110,7 @@ plist com.lumaris.backup lumaris-backup-ui APPL > "$contents/Info.plist"
 printf 'APPL????' > "$contents/PkgInfo"
 printf '%s\n' '[Version]' major_version=2 minor_version=5 "build_version=$build" \
     icon_overlay_version=1 > "$resources/INFO"
-# The caller's umask is no property of the bundle.
+# The permissions must not depend on the caller's umask.
 chmod -R u=rwX,go=rX "$stage"
 
 entries=$(find "$stage" -mindepth 1 | wc -l)

@@ -11,22 +11,23 @@
 
 namespace {
 
-// The Mac's limits, in bytes and with the NUL at the end of a path.
+// The limits of macOS in bytes. That of a path includes the NUL at its end.
 constexpr std::size_t kMaxPart = 255;
 constexpr std::size_t kMaxPath = 1024;
 constexpr std::size_t kMaxTarget = 1023;
 constexpr int kMaxLinks = 32;
-// What stands before a name once it is installed and moved aside; 64 bytes are for the home folder.
+// The longest path before a name, that of a bundle which was moved aside. 64 bytes are for the home
+// folder.
 constexpr std::size_t kRoomForPlace = 64 + sizeof("/.LumarisBackup/Lumaris.app_tmp9/");
 
-// The launcher makes a folder with these permissions when the folder's own entry is not there yet,
-// and does not change them later.
+// The launcher creates a missing folder with these permissions for an entry inside it. An entry for
+// the folder itself that comes later does not change them.
 constexpr mode_t kFolderMode = S_IFDIR | 0755;
 constexpr mode_t kUsualUmask = 022;
 
-// The form in which a Mac compares names.
+// The form in which macOS compares names.
 std::string Folded(const std::string &name) {
-    UErrorCode status = U_ZERO_ERROR;  // cannot fail: the data are built in
+    UErrorCode status = U_ZERO_ERROR;  // cannot fail: the data is built in
     const icu::Normalizer2 *const form = icu::Normalizer2::getNFDInstance(status);
     icu::UnicodeString text = form->normalize(icu::UnicodeString::fromUTF8(name), status);
     text = form->normalize(text.foldCase(), status);
@@ -34,11 +35,8 @@ std::string Folded(const std::string &name) {
     return text.toUTF8String(folded);
 }
 
-bool IsUtf8(const std::string &text) {
-    return ustring::is_valid(text);
-}
-
-// The parts of a name; needless "/" and "." mean nothing to the launcher, to links neither.
+// The parts of a name, without empty ones and ".": they mean nothing, neither to the launcher nor
+// in the target of a link.
 std::vector<std::string> Parts(const std::string &name) {
     std::vector<std::string> parts;
     for (std::size_t begin = 0, end = 0; begin <= name.size(); begin = end + 1) {
@@ -64,7 +62,7 @@ std::string NameProblem(const std::string &name) {
     if (name.size() + kRoomForPlace > kMaxPath) {
         return "is longer than a path can be on a Mac";
     }
-    if (!IsUtf8(name)) {
+    if (!ustring::is_valid(name)) {
         return "is not valid UTF-8";
     }
     const std::vector<std::string> parts = Parts(name);
@@ -76,14 +74,14 @@ std::string NameProblem(const std::string &name) {
             return "has a part longer than 255 bytes";
         }
     }
-    // The archive library on macOS takes such a file for attributes of whatever entry follows it.
+    // On macOS libarchive takes such a file for the attributes of the entry that follows it.
     if (!parts.empty() && parts.back().compare(0, 2, "._") == 0) {
         return "is an AppleDouble file";
     }
     return {};
 }
 
-// The same for its type and permissions.
+// Why an entry may not have this type or these permissions; empty when it may.
 std::string ModeProblem(mode_t mode) {
     if (!S_ISREG(mode) && !S_ISDIR(mode) && !S_ISLNK(mode)) {
         return "is neither a file, a folder nor a symbolic link";
@@ -102,7 +100,8 @@ std::string Parent(const std::string &name) {
     return slash == std::string::npos ? "" : name.substr(0, slash);
 }
 
-// Goes on from `folder` over `steps`, through the links on the way; tells why it does not arrive.
+// Walks from `folder` along `steps`, through any links on the way; `folder` becomes where they
+// lead. Returns why they lead nowhere; empty when they arrive.
 std::string Follow(const std::map<std::string, std::vector<std::string>> &targets,
                    const std::vector<std::string> &steps, std::string &folder, int &followed) {
     for (const std::string &step : steps) {
@@ -131,18 +130,22 @@ std::string Follow(const std::map<std::string, std::vector<std::string>> &target
     return {};
 }
 
+// Why a link may not have this target; empty when it may.
 std::string TargetProblem(const char *target) {
     if (target == nullptr) {
         return "points to a name that cannot be read in every locale";
     }
     const std::string text = target;
-    if (!IsUtf8(text)) {
+    if (!ustring::is_valid(text)) {
         return "points to a name that is not valid UTF-8";
     }
     if (text.size() > kMaxTarget) {
         return "points to a name longer than 1023 bytes";
     }
-    return text.empty() || text.front() == '/' ? "points to an absolute or empty name" : "";
+    if (text.empty() || text.front() == '/') {
+        return "points to an absolute or empty name";
+    }
+    return {};
 }
 
 }  // namespace
@@ -151,10 +154,10 @@ std::string Printable(const std::string &text) {
     constexpr char digits[] = "0123456789abcdef";
     std::size_t end = std::min<std::size_t>(text.size(), 300);
     while (end > 0 && end < text.size() && (text[end] & 0xc0) == 0x80) {
-        --end;  // within a character
+        --end;  // do not cut a character in two
     }
     const std::string shown = text.substr(0, end);
-    const bool utf8 = IsUtf8(shown);
+    const bool utf8 = ustring::is_valid(shown);
     std::string line;
     for (const char c : shown) {
         const auto byte = static_cast<unsigned char>(c);
@@ -196,7 +199,8 @@ std::string BundleRules::Add(const std::string &stored_name, mode_t mode, const 
     return name;
 }
 
-/// The folder of an entry, with those above it: made by the launcher where they are not there yet.
+/// Places the folder of an entry and the folders above it, since the launcher creates missing ones.
+/// False when something else has the name.
 bool BundleRules::PlaceFolder(const std::string &name) {
     if (name.empty()) {
         return true;
@@ -214,7 +218,7 @@ bool BundleRules::PlaceFolder(const std::string &name) {
     return false;
 }
 
-/// Whether the entry is a new one.
+/// Places an entry. False when its name is taken already.
 bool BundleRules::Place(const std::string &name, mode_t mode) {
     const auto [place, is_new] = m_placed.try_emplace(Folded(name), Placed{name, mode});
     const Placed &there = place->second;
@@ -225,7 +229,7 @@ bool BundleRules::Place(const std::string &name, mode_t mode) {
         Refuse(name, "is one name with " + Quoted(there.name) + " on a Mac");
     } else if (!S_ISDIR(mode) || !S_ISDIR(there.mode)) {
         Refuse(name, "is there twice");
-    } else if (((mode ^ there.mode) & ~kUsualUmask) != 0) {
+    } else if ((mode & ~kUsualUmask) != (there.mode & ~kUsualUmask)) {
         Refuse(name, "is a folder that is there before its permissions");
     }
     return false;
@@ -240,8 +244,8 @@ void BundleRules::Finish() {
     RequireFile(kClientExecutable, S_IXUSR, "is not executable");
     RequireFile(kClientInfo, S_IRUSR, "cannot be read by its owner");
     RequireFile(kClientPropertyList, S_IRUSR, "cannot be read by its owner");
-    // An interrupted extraction must not look finished: the launcher goes by these two. Folders may
-    // follow, since 7-zip stores them last.
+    // The launcher goes by these two files, so they come last: an interrupted extraction must not
+    // look complete. Folders may follow them, since 7-zip stores folders last.
     if (m_before_last != kClientExecutable || m_last != kClientInfo) {
         Refuse("the last files are not " + Quoted(kClientExecutable) + " and " +
                Quoted(kClientInfo));

@@ -12,32 +12,32 @@
 
 /// The version file inside the client bundle.
 inline const std::string kClientInfo = std::string(kResources) + "/" + kInfoFile;
-/// What macOS asks of every bundle before it opens it.
+/// The file that macOS requires in every bundle that it opens.
 inline const std::string kClientPropertyList = "Contents/Info.plist";
 
-/// Text from a package on one readable line: control bytes and malformed UTF-8 escaped, not too
-/// long.
+/// Text from a package as one readable line, with control bytes and malformed UTF-8 escaped. Long
+/// texts are cut.
 std::string Printable(const std::string &text);
 /// A name in quotes, printable.
 std::string Quoted(const std::string &name);
 
-/// Judges the bundle that the entries of a package make on a Mac, without touching the disk.
+/// Checks the bundle that the entries of a package would make on a Mac, without touching the disk.
 ///
-/// A Mac takes names for one that differ in letter case or in their canonical form: so names and
-/// the steps of links are compared folded and decomposed.
+/// To macOS, names that differ only in letter case or canonical form are the same. So names and the
+/// targets of links are compared folded and decomposed.
 class BundleRules {
 public:
-    /// One entry in the order of the package. `target` counts for symbolic links; null when the
-    /// locale cannot express it. Returns where the entry lands, below the bundle; empty for the
+    /// Adds the next entry of the package. `target` is that of a symbolic link, null when the
+    /// locale cannot express it. Returns the path of the entry inside the bundle, empty for the
     /// bundle itself and for a name that is refused.
     std::string Add(const std::string &stored_name, mode_t mode, const char *target);
-    /// To be called after the last entry: looks for the files that a client must have, for the
-    /// order of the last two, and where links lead.
+    /// Call this after the last entry. Checks that the required files are there, that the right two
+    /// come last, and where links lead.
     void Finish();
 
     void Refuse(const std::string &problem) { m_problems.insert(problem); }
     void Refuse(const std::string &name, const std::string &problem);
-    /// One line for each reason against the package.
+    /// One line for each reason to refuse the package.
     const std::set<std::string> &Problems() const { return m_problems; }
 
 private:
@@ -52,7 +52,7 @@ private:
 
     std::set<std::string> m_problems;
     std::map<std::string, Placed> m_placed;  // by folded name
-    // The steps of links by the links' names, all folded; none of a link that is refused by itself.
+    // The split targets of links by the names of the links, all folded; without refused links.
     std::map<std::string, std::vector<std::string>> m_targets;
     std::string m_last;
     std::string m_before_last;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Reads a package as the launcher reads it and lists what the launcher would refuse, install in
-// another form than stored, or not be able to repair later.
+// Reads a package with the launcher's code and lists everything that the launcher would refuse,
+// would install differently from how it is stored, or could not repair later.
 
 #include <archive_entry.h>
 
@@ -13,14 +13,14 @@
 #include "bundle-rules.h"
 #include "info-file.h"
 
-// The program stays in the plain C locale, in which names are the bytes that they are. It is also
-// the strictest: what can be read in it, the launcher can read in every locale.
+// The program stays in the C locale, where names are plain bytes. It is also the strictest locale:
+// what can be read in it, the launcher can read in every other.
 
 namespace {
 
 enum ExitStatus { kSuccess = 0, kFailure = 1, kWrongUsage = 2 };
 
-// A Mac cannot store more of a file with holes, on its disk and in its name.
+// The most that a Mac can store of a file with holes: data, and size including the holes.
 constexpr la_int64_t kMaxSparseData = la_int64_t{4} << 30;
 constexpr la_int64_t kMaxSparseSize = la_int64_t{16} << 30;
 // More than the launcher reads of an INFO file.
@@ -64,7 +64,7 @@ public:
     }
 
 private:
-    // False at the end and where reading cannot go on.
+    // Returns false at the end and when reading cannot go on.
     bool NextEntry() {
         archive_entry *entry = nullptr;
         const int status = archive_read_next_header(m_archive.get(), &entry);
@@ -90,7 +90,7 @@ private:
         return Examine(entry, name);
     }
 
-    // Of other formats some say nothing about content, and some keep the reader busy without end.
+    // Some other formats hold no contents, and some can keep the reader busy forever.
     bool IsKnownFormat() {
         switch (archive_format(m_archive.get()) & ARCHIVE_FORMAT_BASE_MASK) {
             case ARCHIVE_FORMAT_TAR:
@@ -110,7 +110,7 @@ private:
         mode_t mode = archive_entry_mode(entry);
         if (archive_entry_hardlink(entry) != nullptr) {
             m_rules.Refuse(stored_name, "is a hard link");
-            mode |= S_IFREG;  // tar does not repeat the type of the other file
+            mode |= S_IFREG;  // tar does not repeat the type of the file it links to
         }
         CheckHoles(entry, stored_name);
         const std::string name = m_rules.Add(stored_name, mode, archive_entry_symlink(entry));
@@ -128,7 +128,7 @@ private:
         }
     }
 
-    // Reads what the entry holds. False where reading cannot go on.
+    // Reads the content of the entry. Returns false when reading cannot go on.
     bool CheckContent(const std::string &name) {
         QByteArray info;
         const void *block = nullptr;
@@ -156,7 +156,7 @@ private:
         return true;
     }
 
-    // The launcher installs a package again at every start when it cannot tell its build.
+    // If the launcher cannot read the build number, it installs the package again at every start.
     void CheckInfo(const QByteArray &content) {
         const auto [major, minor, build, icon_overlay] = ParseInfo(content);
         bool is_number = false;

@@ -13,8 +13,8 @@
 
 namespace {
 
-/// Creates the pid file and locks it for as long as this process lives, so that neither a killed
-/// client nor a reused process id counts as running. -1 when another client holds it.
+/// Creates the pid file and locks it until this process ends, so that neither a killed client nor a
+/// reused process id counts as running. -1 when another client holds the lock.
 int ClaimPidFile(const std::string &pidFile) {
     const int file = open(pidFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
     if (file < 0 || flock(file, LOCK_EX | LOCK_NB) != 0) {
@@ -45,7 +45,7 @@ int main() {
     const std::string pidFile = folder + "/ui.pid";
     const std::string logFile = folder + "/log/client.log";
 
-    // Before the pid file invites anybody to send it.
+    // Blocked before the pid file exists: its readers may send SIGTERM at once.
     sigset_t signals;
     sigemptyset(&signals);
     sigaddset(&signals, SIGTERM);
@@ -59,12 +59,9 @@ int main() {
 
     const bool ignore = getenv("LUMARIS_CLIENT_IGNORE_SIGTERM") != nullptr;
     int received = 0;
-    for (;;) {
+    do {
         sigwait(&signals, &received);
-        if (!ignore) {
-            break;
-        }
-    }
+    } while (ignore);
     Note(logFile, "asked to end,");
     remove(pidFile.c_str());
     return 0;

@@ -2,8 +2,8 @@
 # shellcheck shell=bash
 # The acts; sourced by demo.sh.
 
-# The last step is on the screen for some milliseconds only; on a busy machine the dialog may be
-# hidden before it is painted, so the first start gets three fresh home folders to show it.
+# The dialog shows 100 percent for only a few milliseconds. On a busy machine it may be hidden before
+# that is painted, so the first start gets three attempts, each in a fresh home folder.
 act_1() {
     say "== Act 1: first start in an empty home folder installs the client and starts it"
     new_bundle launcher 120
@@ -15,7 +15,7 @@ act_1() {
         check "the client runs" client_runs
         last=$(tail -n 1 "$DEMO/dialog-trace.txt" | cut -d' ' -f2)
         [ "$last" != 100 ] || break
-        say "  the dialog was last painted at ${last:-nothing}; once more"
+        say "  the last percentage on the screen was ${last:-none}; trying again"
         kill -9 "$(client_pid)"
     done
     convert "xwd:$WORK/dialog.xwd" -trim +repage "$DEMO/dialog.png"
@@ -57,7 +57,7 @@ act_3() {
     say "== Act 3: build 121 over 120 while the client runs: stopped, replaced, started"
     new_home 3
     upgrade_to_121
-    check "the old client left because it was asked" \
+    check "the old client ended on request" \
         grep -q "asked to end, pid $OLD_CLIENT\$" "$USER_DIR/log/client.log"
 }
 
@@ -65,7 +65,7 @@ act_4() {
     say "== Act 4: the same with a client that ignores SIGTERM: killed after about five seconds"
     new_home 4
     upgrade_to_121 LUMARIS_CLIENT_IGNORE_SIGTERM=1
-    check "that took at least five seconds ($SECONDS_TAKEN), and not twice that" \
+    check "the launch took at least five and less than ten seconds ($SECONDS_TAKEN)" \
         [ "$SECONDS_TAKEN" -ge 5 -a "$SECONDS_TAKEN" -lt 10 ]
 }
 
@@ -142,7 +142,7 @@ act_7() {
     check "the dialog moved in $steps steps (at least 60)" [ "$steps" -ge 60 ]
     check "it never stood still for two seconds (longest pause $pause ms)" [ "$pause" -lt 2000 ]
     base=$(cat "$DEMO/peak-act-1" 2>/dev/null || echo 0)
-    [ "$base" -gt 0 ] || fail "run act 1 first: its peak memory is the measure"
+    [ "$base" -gt 0 ] || fail "run act 1 first: this act compares its peak memory"
     check "peak memory $PEAK_KB KB is within 40 MB of act 1's $base KB" \
         [ $((PEAK_KB - base)) -lt 40960 ]
     check "the client runs" client_runs

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# The sheet of all languages; sourced by demo.sh.
+# Shows the dialog in all languages on one sheet; sourced by demo.sh.
 
 act_languages() {
     say "== Languages: the dialog under all twenty locales, on one sheet"
@@ -11,7 +11,8 @@ act_languages() {
     catalogues=("$ROOT"/translations/*.ts)
     check "there is a locale for each catalogue" [ ${#languages[@]} -eq ${#catalogues[@]} ]
     new_bundle languages 120
-    # The last text stays visible while this older layout is removed, otherwise only for an instant.
+    # The launcher shows its last text while it removes this older layout; without it, the text would
+    # be gone in an instant.
     mkdir -p "$WORK/aged"
     (cd "$WORK/aged" && seq 20000 | split -a 5 -l 1 - file-)
     for language in "${languages[@]}"; do
@@ -36,7 +37,7 @@ act_languages() {
             fail "$code: status $STATUS, or the client does not run"
         [ "$TITLE" = "Lumaris Backup" ] || fail "$code: the title is '$TITLE'"
         { [ -s "$WORK/dialog.xwd" ] && [ -s "$WORK/end.xwd" ]; } ||
-            fail "$code: the dialog was not seen at work and at its end"
+            fail "$code: the dialog was not seen both at work and at its end"
         check "$code under $locale: dialog, title, catalogue, client" \
             grep -q "qstrDef)=\[$code" "$HOME_DIR/../err"
         convert "xwd:$WORK/dialog.xwd" -trim +repage "xwd:$WORK/end.xwd" -trim +repage \

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# Starting the launcher and looking at what it did; sourced by demo.sh.
+# Starts the launcher and looks at what it did; sourced by demo.sh.
 
-# launch: one start, awaited; leaves STATUS, SECONDS_TAKEN and PEAK_KB.
+# launch: starts the launcher, waits for it and sets STATUS, SECONDS_TAKEN and PEAK_KB.
 launch() {
     folder before
     local from log_start
@@ -21,7 +21,8 @@ launch() {
     check "exit status 0" [ "$STATUS" -eq 0 ]
 }
 
-# start_launcher [VARIABLE=VALUE...]: the same without waiting; process in LAUNCHER, output beside the home folder.
+# start_launcher [VARIABLE=VALUE...]: starts the launcher and does not wait. Sets LAUNCHER to the process
+# id; the output goes beside the home folder.
 start_launcher() {
     env HOME="$HOME_DIR" TMPDIR="$TMP_DIR" XDG_RUNTIME_DIR="$TMP_DIR" "$@" \
         time -q -f %M -o "$HOME_DIR/../peak" "$BUNDLE/Contents/MacOS/launcher" \
@@ -29,8 +30,8 @@ start_launcher() {
     LAUNCHER=$!
 }
 
-# watched TRACE PICTURE COMMAND...: runs the command; TRACE gets a line for each state of the dialog
-# on the screen meanwhile, PICTURE the last one.
+# watched TRACE PICTURE COMMAND...: runs the command and watches the dialog on the screen. TRACE gets a
+# line for each step of its bar, PICTURE a picture of it.
 watched() {
     local trace=$1 picture=$2 watch
     shift 2
@@ -54,7 +55,7 @@ installed_build() {
     sed -n 's/^build_version=//p' "$USER_DIR/Lumaris.app/Contents/Resources/INFO"
 }
 client_pid() { sed -n 's/^pid=//p' "$USER_DIR/ui.pid" 2>/dev/null; }
-client_runs() { # waits for it: the launcher does not
+client_runs() { # waits for the client, since the launcher does not
     for _ in $(seq 50); do
         [ "$(readlink "/proc/$(client_pid)/exe" 2>/dev/null)" = \
             "$USER_DIR/Lumaris.app/Contents/MacOS/lumaris-backup-ui" ] && return
@@ -62,7 +63,7 @@ client_runs() { # waits for it: the launcher does not
     done
     return 1
 }
-client_gone() { # waits for it: a killed process may take a moment to leave
+client_gone() { # waits, since a killed process may take a moment to end
     for _ in $(seq 20); do
         [ -e "/proc/$1" ] || return 0
         sleep 0.1
@@ -74,12 +75,12 @@ tree_state() {
     (cd "$1" && find . -printf '%p %y %l %M\n' | LC_ALL=C sort &&
         find . -type f -print0 | LC_ALL=C sort -z | xargs -0 sha256sum)
 }
-bundle_is() { # bundle_is BUILD: the installed bundle is that client folder, byte for byte
+bundle_is() { # bundle_is BUILD: the installed bundle equals the client folder of that build
     cmp <(tree_state "$(client_folder "$1")") <(tree_state "$USER_DIR/Lumaris.app")
 }
 no_backups() { ! compgen -G "$USER_DIR/Lumaris.app_tmp*"; }
 logged() { grep -qF -- "$1" "$USER_DIR/log/launcher.log"; }
-install_120() { # the state after act 1, without showing it
+install_120() { # brings about the state after act 1, without printing anything
     start_launcher "$@"
     { wait "$LAUNCHER" && client_runs; } || fail "build 120 could not be installed"
 }

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# What an act starts with: a home folder, a launcher bundle, a package; sourced by demo.sh.
+# Makes what an act starts with: a home folder, a launcher bundle, a package; sourced by demo.sh.
 
-# new_home NAME: a fresh home folder and temporary folder in HOME_DIR and TMP_DIR.
+# new_home NAME: makes a fresh home folder and temporary folder; sets HOME_DIR and TMP_DIR.
 new_home() {
     HOME_DIR=$WORK/$1/home
     TMP_DIR=$WORK/$1/tmp
@@ -11,8 +11,8 @@ new_home() {
     mkdir -p "$HOME_DIR" "$TMP_DIR"
 }
 
-# new_bundle NAME BUILD: a copy of the staged bundle in BUNDLE that carries that build; its log
-# thresholds are raised.
+# new_bundle NAME BUILD: copies the staged bundle, puts that build into it and makes it log debug
+# messages; sets BUNDLE.
 new_bundle() {
     BUNDLE=$WORK/$1.app
     cp -R "$BUILD/LumarisLauncher.app" "$BUNDLE"
@@ -23,13 +23,13 @@ new_bundle() {
     printf '%s=7\n' launcher_debug service_debug extractor_debug > "$BUNDLE/log/launcher.debug"
 }
 
-# ship FOLDER: the bundle carries what lumaris-pack wrote there.
+# ship FOLDER: puts the package that lumaris-pack wrote to FOLDER into the bundle.
 ship() {
     cp "$1/package/lumaris.wpk" "$BUNDLE/Contents/Resources/package/"
     cp "$1/INFO" "$BUNDLE/Contents/Resources/INFO"
 }
 
-# make_package BUILD: the client folder of that build and its package, made once.
+# make_package BUILD: makes the client folder of that build and its package, unless they exist.
 make_package() {
     [ -d "$WORK/package-$1" ] && return
     "$ROOT/packaging/demo/stage-client.sh" "$1" "$CLIENT" "$WORK/client-$1/Lumaris.app" >/dev/null

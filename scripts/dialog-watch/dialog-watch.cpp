@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Follows the progress dialog on an Xvfb screen by its pixels, as a person would see it: prints
-// "MILLISECONDS PERCENT" whenever the bar has moved, until it is ended by a signal, and keeps the
-// first picture from 40 percent on.
+// "MILLISECONDS PERCENT" whenever the bar has moved, until a signal ends it. Saves the screen at 40
+// percent or more to PICTURE, and at the end to END_PICTURE.
 //
-// usage: dialog-watch Xvfb_screen0 PICTURE.xwd
+// usage: dialog-watch Xvfb_screen0 PICTURE.xwd [END_PICTURE.xwd]
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -18,8 +18,8 @@
 
 namespace {
 
-/// The screen as Xvfb's -fbdir maps it: a header of big-endian words (X11/XWDFile.h), the colours
-/// and the pixels, 32 bits each.
+/// The screen in the file that Xvfb writes for -fbdir: a header of big-endian words
+/// (X11/XWDFile.h), the colours and the pixels, 32 bits each.
 class Screen {
 public:
     explicit Screen(const char *path) {
@@ -38,7 +38,7 @@ public:
         const size_t pixels = Word(0) + Word(19) * size_t(12);
         return m_data + pixels + size_t(y) * Word(12) + size_t(x) * 4;
     }
-    /// All bytes, which are a picture in the XWD format.
+    /// The whole file, which is a picture in the XWD format.
     std::string Copy() const { return {reinterpret_cast<const char *>(m_data), m_size}; }
 
 private:
@@ -58,8 +58,8 @@ bool IsFree(const unsigned char *p) {
     return p[0] > 250 && p[1] > 250 && p[2] > 250;
 }
 
-/// Percentage of the bar that is filled, -1 when there is no bar. The number stands across the
-/// middle of the bar, so the longest row counts, which passes above it.
+/// How much of the bar is filled, in percent; -1 when there is no bar. The number on the bar
+/// interrupts the rows in its middle, so the longest row counts, which is above the number.
 int FilledPercent(const Screen &screen) {
     int longest = 100, percent = -1;
     for (int y = 0; y < screen.Height(); ++y) {
@@ -105,8 +105,8 @@ int main(int argc, char **argv) {
             std::ofstream(argv[2], std::ios::binary) << screen.Copy();
             saved = true;
         }
-        // The last text comes some time after the last step. Kept is a state that was followed by
-        // more of the same: the very last one may show the window half removed.
+        // The last text comes some time after the bar is full. A copy is saved only if the bar is
+        // still full 40 looks later: the very last screen may show the window half removed.
         ended = percent == 100 && argc == 4 ? ended + 1 : 0;
         if (ended % 100 == 50) {
             kept = screen.Copy();

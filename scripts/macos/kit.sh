@@ -2,8 +2,8 @@
 # shellcheck shell=bash
 # Lays out what cmake/toolchain-macos.cmake needs; sourced by macos.sh.
 
-# The compiler: one archive that brings the C library's headers of macOS, the standard library and
-# the symbols of the system's own library. Fetched once; its checksum is the registry's.
+# Fetches the compiler, unless it is there: one archive with the C headers of macOS, the C++ standard
+# library and the symbols of the system library. The checksum is the registry's.
 fetch_compiler() {
     local archive=$OUT/${KIT_PACKAGE#*/}-$KIT_VERSION.tgz
     if [ ! -e "$archive" ]; then
@@ -22,7 +22,7 @@ fetch_compiler() {
     }
 }
 
-# wrapper NAME ARGUMENT...: a command of the kit that starts the compiler with these arguments
+# wrapper NAME ARGUMENT...: makes a command that starts the compiler with these arguments
 wrapper() {
     local name=$1
     shift
@@ -34,8 +34,8 @@ WRAPPER
     chmod +x "$KIT/bin/$name"
 }
 
-# stub FILE INSTALL_NAME: a text that stands for a library when programs are linked; its symbols come
-# from standard input, one a line.
+# stub FILE INSTALL_NAME: makes a text file that the linker takes for a library. Reads the symbols from
+# standard input, one per line.
 stub() {
     local targets="[ x86_64-macos, arm64-macos ]"
     {
@@ -45,13 +45,13 @@ stub() {
     } > "$1"
 }
 
-# symbols LIBRARY: those of this machine's library
+# symbols LIBRARY: prints the symbols of a library of this machine
 symbols() {
     nm -D --defined-only --format=just-symbols "$1" | sed 's/@.*//'
 }
 
-# stand_in PROCESSORS FILE INSTALL_NAME OTHER_FILE...: a real library with nothing in it but its name
-# and the names of others, which the deployment of the bundle is tried on
+# stand_in PROCESSORS FILE INSTALL_NAME OTHER_FILE...: makes an empty library that loads the other ones,
+# to try the deployment of the bundle on
 stand_in() {
     local processors=$1 file=$2 name=$3 processor parts=() others
     shift 3
@@ -66,8 +66,8 @@ stand_in() {
     lipo -create "${parts[@]}" -output "$file"
 }
 
-# lay_out_libraries PROCESSOR FOLDER: ICU, libarchive and Zstandard named as Homebrew names them,
-# with whole paths and with @loader_path
+# lay_out_libraries PROCESSOR FOLDER: makes ICU, libarchive and Zstandard with install names like
+# Homebrew's: absolute ones, and one with @loader_path
 lay_out_libraries() {
     local icu=$2/icu4c/lib archive=$2/libarchive/lib zstd=$2/zstd/lib
     stand_in "$1" "$icu/libicudata.74.dylib" @loader_path/libicudata.74.dylib
@@ -78,17 +78,17 @@ lay_out_libraries() {
     symbols "$LIBRARIES/libarchive.so" | stub "$archive/libarchive.tbd" "$archive/libarchive.13.dylib"
 }
 
-# lay_out_framework PROCESSORS FOLDER NAMES MODULE OTHER_FILE...
+# lay_out_framework PROCESSORS FOLDER NAMES MODULE OTHER_FILE...: makes one framework of Qt
 lay_out_framework() {
     local file=Qt$4.framework/Versions/5/Qt$4
     stand_in "$1" "$2/$file" "$3/$file" "${@:5}"
     symbols "$LIBRARIES/libQt5$4.so.5" | stub "$2/$file.tbd" "$3/$file"
 }
 
-# lay_out_qt PROCESSORS FOLDER NAMES: frameworks and plug-ins, the frameworks named NAMES/...
+# lay_out_qt PROCESSORS FOLDER NAMES: makes frameworks, with the install names NAMES/..., and plug-ins
 lay_out_qt() {
     local module plugin others=()
-    # Printing is what a plug-in needs and the launcher does not.
+    # Only the plug-ins need PrintSupport, not the launcher.
     for module in Core Gui Widgets PrintSupport; do
         lay_out_framework "$1" "$2/lib" "$3" $module "${others[@]}"
         others+=("$2/lib/Qt$module.framework/Versions/5/Qt$module")
@@ -116,7 +116,7 @@ lay_out_kit() {
     for processor in "${PROCESSORS[@]}"; do
         lay_out_libraries "$processor" "$KIT/$processor"
     done
-    # Qt for Intel as its makers build and name it, for Apple silicon as Homebrew does.
+    # For Intel, Qt as its makers build and name it; for Apple silicon, as Homebrew does.
     lay_out_qt "${PROCESSORS[*]}" "$KIT/x86_64/qt" @rpath
     lay_out_qt aarch64 "$KIT/aarch64/qt" "$KIT/aarch64/qt/lib"
     mkdir -p "$KIT/lib/CoreServices.framework"

@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# Looks at what was built for macOS; sourced by macos.sh.
+# Checks what was built for macOS; sourced by macos.sh.
 
 readonly ARCHITECTURES=(x86_64 arm64) # the names of the processors inside a program
 
-# look_at_program FILE RUN_PATH LIBRARY...: both processors, the oldest system, that run path and
-# these libraries, besides the C and C++ library, and no others
+# look_at_program FILE RUN_PATH LIBRARY...: fails unless the program is for both processors and the oldest
+# system, has that run path, and links exactly these libraries besides those of C and C++
 look_at_program() {
     local file=$1 architecture
     shift
@@ -36,12 +36,13 @@ look_at_part() {
     [ "$paths" = "$run_path" ] ||
         die "$file ($architecture) looks for libraries in '$paths'"
 
-    # What only the other system has would be missing at run time.
+    # A symbol that only Linux has would be missing at run time.
     ! llvm-nm-14 --arch="$architecture" -u "$file" | grep -E '_(syncfs|__errno_location|__xstat|_ZNSt7__cxx11)' ||
-        die "$file ($architecture) asks for a symbol of Linux"
+        die "$file ($architecture) needs a symbol of Linux"
 }
 
-# look_at_bundle BUNDLE PACKAGE: complete, for both processors, and with the version of the package
+# look_at_bundle BUNDLE PACKAGE: fails unless the bundle is complete, for both processors, and has the
+# version of the package
 look_at_bundle() {
     local file plist=$OUT/Info.plist
     for file in MacOS/launcher Info.plist Resources/INFO Resources/package/lumaris.wpk \
@@ -55,19 +56,19 @@ look_at_bundle() {
         *) die "$file is for one processor only" ;;
         esac
     done < <(find "$1/Contents/MacOS" "$1/Contents/Frameworks" -type f)
-    # It ends with 0 whatever it reads: what counts is that something comes out.
+    # plistutil exits with 0 whatever it reads, so look at its output.
     rm -f "$plist"
     plistutil -i "$1/Contents/Info.plist" -o "$plist" 2>/dev/null || true
     grep -qa CFBundleExecutable "$plist" 2>/dev/null ||
         die "$1/Contents/Info.plist is no valid property list"
     [ "$(value_of LSMinimumSystemVersion "$1")" = "$MINIMUM" ] ||
-        die "$1/Contents/Info.plist names another oldest system than the programs"
+        die "$1/Contents/Info.plist and the programs name different oldest systems"
     grep -q "^build_version=$(value_of CFBundleVersion "$1")\$" "$2/INFO" ||
         die "$1/Contents/Info.plist names another build than the package"
     say "$(basename "$1"): complete; Info.plist is valid and names the version of the package"
 }
 
-# look_at_tests: how many test programs there are
+# look_at_tests: prints how many test programs there are
 look_at_tests() {
     local programs
     programs=$(find "$OUT/aarch64/tests" -path '*.app/Contents/MacOS/*' -type f | wc -l)
@@ -75,7 +76,7 @@ look_at_tests() {
     echo "$programs test programs"
 }
 
-# value_of KEY BUNDLE: the number that Info.plist gives
+# value_of KEY BUNDLE: prints the number under KEY in Info.plist
 value_of() {
     sed -n "/<key>$1</{n;s/[^0-9.]*//g;p}" "$2/Contents/Info.plist"
 }

@@ -1,3 +1,3 @@
 // SPDX-License-Identifier: MIT
-// What a stand-in for a library consists of.
+// The content of every stand-in for a library.
 int lumaris_stand_in;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Packs the sample client alone, for a launcher bundle that is built to be tested and not shipped.
+# Packs the bare sample client, for launcher bundles that are tested and not shipped.
 # usage: sample-package.sh BUILD_FOLDER OUT
 set -euo pipefail
 [ $# -eq 2 ] || { echo "usage: sample-package.sh BUILD_FOLDER OUT" >&2; exit 2; }

@@ -17,8 +17,8 @@ static const ustring LOG_COMPONENT("extractor_debug");
 
 namespace {
 
-/// An existing file gives way, ".." is refused, macOS metadata is restored. Owner, times and the
-/// rest are not: the files belong to the user and count as installed now.
+/// Replace existing files, refuse "..", restore macOS metadata. Owners and times are not restored:
+/// the files belong to the user and count as installed now.
 const int kDiskOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
@@ -27,7 +27,7 @@ struct FreeWriter {
 };
 using Writer = std::unique_ptr<struct archive, FreeWriter>;
 
-/// libarchive gives no text where the failure was found by another handle.
+/// The error text of `a`, or else of `other`: a call with two handles may set either.
 const char *ErrorText(struct archive *a, struct archive *other = nullptr) {
     const char *text = archive_error_string(a);
     if (text == nullptr && other != nullptr) {
@@ -36,7 +36,7 @@ const char *ErrorText(struct archive *a, struct archive *other = nullptr) {
     return text != nullptr ? text : "unknown error";
 }
 
-/// A reader at the first entry of the archive at `path`; null after a failure.
+/// Opens the archive at `path`. Returns null after a failure, which is logged.
 ArchiveReader OpenForListing(const ustring &path) {
     ArchiveReader reader(archive_read_new());
     if (!reader) {
@@ -50,7 +50,7 @@ ArchiveReader OpenForListing(const ustring &path) {
     return reader;
 }
 
-/// Writes one entry below `dest` and reports it as number `index` of `total`.
+/// Extracts one entry into `dest` and reports it as number `index` of `total`.
 int ExtractEntry(struct archive *reader, struct archive *writer, struct archive_entry *entry,
                  const ustring &dest, int total, int index) {
     const char *name = archive_entry_pathname(entry);
@@ -104,7 +104,7 @@ int Extractor::Extract() {
         MSG_ERROR("Failed to calculate total file numbers, ret: %d\n", total);
         return -1;
     }
-    // The writer is freed first: it sets the final permissions of folders then.
+    // Freeing the writer sets the final permissions of folders.
     const ArchiveReader reader(archive_read_new());
     const Writer writer(archive_write_disk_new());
     if (!reader || !writer) {

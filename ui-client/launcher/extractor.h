@@ -5,23 +5,24 @@
 
 struct archive;
 
-/// Reads a package archive in any format and compression that libarchive knows.
+/// Reads a package archive in any format and compression that libarchive supports.
 ///
-/// A plain value: give it its two paths and call one operation. Runs on the calling thread;
-/// every failure is logged and gives -1. Handles live inside one call.
+/// Set the two paths, then call an operation. It runs on the calling thread and keeps nothing open.
+/// Every failure is logged and returns -1.
 class Extractor {
 public:
-    /// Writes every entry below `m_dest_path` and reports progress through `Notify_Adapter`.
-    /// Returns 0, or -1 on the first failure; what was written by then stays.
+    /// Extracts every entry into `m_dest_path` and reports progress through `Notify_Adapter`.
+    /// Returns 0. Stops at the first failure; entries already written stay.
     int Extract();
 
-    /// Number of entries; a damaged archive gives those before the damage. -1 when unreadable.
+    /// Counts the entries, in a damaged archive those before the damage. -1 when it cannot be
+    /// opened.
     int Count();
 
-    /// Writes the entries' names to standard output, one a line. 0, or -1 when unreadable.
+    /// Prints the names of the entries, one per line. 0, or -1 when the archive cannot be opened.
     int List();
 
-    /// Copies the data of one entry from a reader to a writer. 0 at its end, -1 on failure.
+    /// Copies the data of one entry from a reader to a writer. 0, or -1 on failure.
     int copy_data(struct archive *in, struct archive *out);
 
     ustring m_dest_path;

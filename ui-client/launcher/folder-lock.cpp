@@ -14,9 +14,10 @@ static const ustring LOG_COMPONENT("service_debug");
 
 namespace {
 
-const int kLooks = 600;
-const useconds_t kPause = 100000;  // microseconds; the looks take a minute
+const int kAttempts = 600;
+const useconds_t kPause = 100000;  // microseconds; all attempts together take a minute
 
+/// Takes the lock if it is free.
 bool IsHeldByOther(int folder) {
     return flock(folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
@@ -29,7 +30,7 @@ FolderLock::FolderLock(const ustring &folder)
         return;
     }
     MSG_DEBUG("waiting for the launcher that works in '%s'\n", folder.c_str());
-    for (int look = 0; look < kLooks; ++look) {
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
         usleep(kPause);
         if (!IsHeldByOther(m_folder)) {
             return;

@@ -3,12 +3,12 @@
 
 #include "ustring.h"
 
-/// Holds the kernel's lock on a folder (flock(2)), which ends with the process at the latest. Makes
-/// one upgrade wait for another: launchers of different bundles share the per-user folder.
+/// Locks a folder with flock(2). Launchers in different bundles share the per-user folder, so one
+/// upgrade has to wait for another. The kernel drops the lock when the process ends.
 class FolderLock {
 public:
-    /// Waits while another process holds the lock, at most a minute; then says so and goes on
-    /// without it. A folder that cannot be opened or a volume without locks changes nothing.
+    /// Waits up to a minute while another process holds the lock, then logs a warning and goes on
+    /// without it. If the folder cannot be opened or its volume has no locks, goes on at once.
     explicit FolderLock(const ustring &folder);
     ~FolderLock();
     FolderLock(const FolderLock &) = delete;

@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Stands for "@" while the settings reader is at work: a value that begins with "@Variant(" is a
-/// serialized object to it, and a damaged one ends the program.
+/// Replaces "@" while QSettings reads the file: it takes a value that begins with "@Variant(" for a
+/// serialized object, and a damaged one crashes the program.
 const char kMark = '\1';
 
 InfoTexts ReadSettings(const QString &path) {
@@ -41,7 +41,7 @@ InfoTexts ReadInfoFile(const ustring &path) {
 }
 
 InfoTexts ParseInfo(const QByteArray &content) {
-    QTemporaryFile file;  // the settings reader takes nothing but the name of a file
+    QTemporaryFile file;  // QSettings only reads files that have a name
     if (content.size() > kMaxTextFile || !file.open() ||
         file.write(QByteArray(content).replace('@', kMark)) != content.size() || !file.flush()) {
         return {};

@@ -3,7 +3,7 @@
 
 #include "ustring.h"
 
-/// Where the launcher and what it installs lie on disk. Any thread, once the application object
+/// The paths of the launcher and of what it installs. Any thread, once the application object
 /// exists.
 namespace InstallPaths {
 

@@ -12,7 +12,7 @@ Launcher::Launcher() : QObject(nullptr), worker(new Worker), dialog(new Processi
     dialog->setCancelButton(nullptr);
     dialog->setAutoReset(false);
 
-    // The run ends with LaunchDone, not with the window.
+    // The run ends with LaunchDone, not when the window closes.
     QApplication::setQuitOnLastWindowClosed(false);
     qApp->installEventFilter(this);
 
@@ -34,8 +34,8 @@ Launcher::~Launcher() {
 }
 
 bool Launcher::eventFilter(QObject *watched, QEvent *event) {
-    // The system asks the application to quit, at log-out for instance: the toolkit then closes all
-    // windows, and one that stays visible would hold the system up.
+    // When the system asks the application to quit, for example at log-out, Qt closes all windows.
+    // A window that stayed visible would block the log-out.
     if (watched == qApp) {
         if (event->type() == QEvent::Close || event->type() == QEvent::Quit) {
             dialog->hide();

@@ -14,11 +14,11 @@ class Launcher : public QObject {
 
 public:
     Launcher();
-    /// Waits for the worker thread first: the desktop may end the event loop before `LaunchDone`
-    /// does, and a run that has begun is finished all the same.
+    /// Waits for the worker thread: the desktop may end the event loop before `LaunchDone` does,
+    /// and a run that has begun must still finish.
     ~Launcher() override;
 
-    /// Starts the worker thread; called once. Without a thread the event loop ends at once.
+    /// Starts the worker thread; called once. If that fails, the event loop ends at once.
     void Run();
     /// Requests the service run; called once, after `Run`.
     void Start();
@@ -32,12 +32,11 @@ private Q_SLOTS:
     /// `total` is greater than 0.
     void UpdateProgress(int total, int steps);
     void SetLabelText(QString text);
-    /// Shows the dialog.
     void ShowMsgBox();
 
 private:
-    /// Keeps the dialog open whatever the user does to it, as there is nothing to cancel, and hides
-    /// it when the application is asked to quit. The run is finished in either case.
+    /// Keeps the user from closing the dialog, since nothing can be cancelled, and hides it when
+    /// the application is asked to quit. The run continues in both cases.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     Worker *worker;                    // owned

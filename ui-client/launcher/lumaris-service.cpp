@@ -25,7 +25,7 @@ static const ustring LOG_COMPONENT("service_debug");
 namespace {
 
 const int kBackupNames = 10;
-const int kAsideNames = 100;  // more than backups, whose names can all be taken
+const int kAsideNames = 100;  // more than kBackupNames: all backup names may be taken
 
 /// Name under which the bundle is kept during an upgrade: "_tmp", "_tmp1" to "_tmp9".
 ustring GetAppBackupDir(const ustring &app, int index) {
@@ -41,7 +41,8 @@ ustring GetAppBackupDir(const ustring &app, int index) {
     return backup + postfix;
 }
 
-/// Reads the keys that the INFO file at `path` holds into their members, in the order of the keys.
+/// Reads the INFO file at `path` into `members`, which have the order of `kVersionKeys`. A member
+/// whose key is missing keeps its value.
 void LoadVersion(const ustring &path,
                  const std::array<ustring *, std::tuple_size<InfoTexts>::value> &members) {
     const InfoTexts texts = ReadInfoFile(path);
@@ -52,12 +53,12 @@ void LoadVersion(const ustring &path,
     }
 }
 
-/// Moves the bundle to the first backup name that is free, recorded in the journal. Returns its
-/// index and sets `backup`, or returns -1 when every name is taken.
+/// Moves the bundle to the first free backup name and records the move in the journal. Sets
+/// `backup` and returns the index of the name, or -1 when all names are taken.
 int BackupApp(const ustring &app, UpgradeJournal &journal, ustring &backup) {
     for (int index = 0; index < kBackupNames; ++index) {
         backup = GetAppBackupDir(app, index);
-        rmdir(backup.c_str());  // an empty folder, which the bundle would replace
+        rmdir(backup.c_str());  // the rename would replace an empty folder, too
         journal.Begin(backup);
         if (FSRename(app, backup, false) == 0) {
             return index;
@@ -70,7 +71,7 @@ int BackupApp(const ustring &app, UpgradeJournal &journal, ustring &backup) {
     return -1;
 }
 
-/// Removes the backups with the indices 0 to `last`. While one of them stays, so does the record:
+/// Removes the backups with the indices 0 to `last`. The record stays until all are gone, so that
 /// the next start tries again.
 void RemoveBackups(const ustring &app, int last, UpgradeJournal &journal) {
     bool removed = true;
@@ -82,8 +83,8 @@ void RemoveBackups(const ustring &app, int last, UpgradeJournal &journal) {
     }
 }
 
-/// The index of the last backup name that an upgrade with this backup removes: 0 for a first
-/// installation, which has none, but removes a stale one. -1 for a path that is no backup name.
+/// The index of the last backup to remove after an upgrade that used `backup`. An empty `backup`
+/// (a first installation) gives 0, so that a stale backup goes; -1 means not a backup name.
 int LastBackup(const ustring &app, const ustring &backup) {
     if (backup.empty()) {
         return 0;
@@ -96,11 +97,11 @@ int LastBackup(const ustring &app, const ustring &backup) {
     return -1;
 }
 
-/// Makes room for the new bundle. Returns the index of the last backup name that is to be removed
-/// at the end and sets `backup` where there is an old bundle; -1 when there is no room.
+/// Makes room for the new bundle. Sets `backup` if there is an old bundle. Returns the index of the
+/// last backup to remove at the end, or -1 when there is no room.
 int MoveAside(const ustring &app, UpgradeJournal &journal, ustring &backup) {
     if (journal.IsBegun(backup)) {
-        // The recovery could not put the old bundle back: its backup is that of this upgrade, too.
+        // Recovery could not put the old bundle back, so its backup also serves this upgrade.
         return IsFileExist(app, false) ? -1 : LastBackup(app, backup);
     }
     if (IsFileExist(app, false)) {
@@ -110,9 +111,9 @@ int MoveAside(const ustring &app, UpgradeJournal &journal, ustring &backup) {
     return 0;
 }
 
-/// Frees the bundle's name of what an extraction left there. What cannot be removed is renamed:
-/// the old bundle must get its name back whatever a package held. Returns the name that the remains
-/// have then, if any.
+/// Removes what an extraction left at `app`, or renames what cannot be removed: the old bundle must
+/// get its name back, whatever the package contained. Returns the new name after a rename, else an
+/// empty string.
 ustring Discard(const ustring &app) {
     if (FSRemove(app, false) == 0) {
         return ustring();
@@ -128,8 +129,8 @@ ustring Discard(const ustring &app) {
     return ustring();
 }
 
-/// Puts the old bundle in place of what an extraction left. After a failure the record stays: the
-/// next start tries again.
+/// Puts the old bundle back in place of what an extraction left. If that fails, the record stays
+/// and the next start tries again.
 void PutBack(const ustring &app, const ustring &backup, UpgradeJournal &journal) {
     const ustring aside = Discard(app);
     if (FSRename(backup, app, false) != 0) {
@@ -137,12 +138,12 @@ void PutBack(const ustring &app, const ustring &backup, UpgradeJournal &journal)
         return;
     }
     if (journal.End() && !aside.empty()) {
-        FSRename(aside, backup, false);  // the next good upgrade removes it from there
+        FSRename(aside, backup, false);  // the next successful upgrade removes backups
     }
 }
 
-/// Handles a failed extraction. An empty `backup` means that there was no old bundle; what was
-/// extracted stays then.
+/// Handles a failed extraction. An empty `backup` means that there was no old bundle; the extracted
+/// files then stay.
 void Rollback(const ustring &app, const ustring &backup, UpgradeJournal &journal) {
     if (backup.empty()) {
         MSG_ERROR("Failed to extract package, and no old installation to rollback\n");
@@ -153,14 +154,15 @@ void Rollback(const ustring &app, const ustring &backup, UpgradeJournal &journal
     PutBack(app, backup, journal);
 }
 
-/// Undoes an upgrade that an earlier start began. An empty `backup` means a first installation.
+/// Undoes an upgrade that an earlier start began. An empty `backup` means a first installation. If
+/// the backup cannot be looked up, the record stays and the next start tries again.
 void GoBack(const ustring &app, const ustring &backup, UpgradeJournal &journal) {
     FILE_INFO info;
     if (backup.empty()) {
         Discard(app);
         journal.End();
     } else if (LastBackup(app, backup) < 0) {
-        journal.End();  // it names nothing of ours
+        journal.End();  // not a name that we use
     } else if (GetFileInfo(backup, info) == 0) {
         if (info.exists) {
             PutBack(app, backup, journal);
@@ -224,7 +226,7 @@ int Service::PrepareUserEnv() {
         Rollback(app, backup, journal);
         return -1;
     }
-    // A power failure must not find the backups removed and the new files still in memory.
+    // If the power fails after the backups are removed, the new files must already be on disk.
     if (SyncVolume(app) != 0) {
         const int error = errno;
         MSG_WARNING("failed to write '%s' to disk: %s (%d)\n", app.c_str(), strerror(error), error);

@@ -3,8 +3,8 @@
 
 #include "ustring.h"
 
-/// Base of the install and upgrade service: fixes where everything lies on disk, loads the two
-/// versions and replaces the per-user bundle with rollback.
+/// Base of the install and upgrade service: knows all paths, loads the two versions and replaces
+/// the per-user bundle, with rollback.
 ///
 /// Source means the installed per-user copy, target the package that the launcher ships. One object
 /// serves one run, on one thread; the static path operations may be called from any thread once
@@ -24,16 +24,16 @@ public:
     virtual bool IsNeedUpgrade() = 0;
     /// Extracts the shipped package into the per-user bundle folder. 0 for success.
     virtual int ExtractPackage();
-    /// Reads the version of the installed copy; a key that the file lacks leaves its member.
+    /// Reads the version of the installed copy. A member whose key is missing keeps its value.
     virtual void LoadSourceVersion();
-    /// Reads the version of the shipped package; a key that the file lacks leaves its member.
+    /// Reads the version of the shipped package. A member whose key is missing keeps its value.
     virtual void LoadTargetVersion();
     /// Replaces the per-user bundle by the shipped package; a failed extraction is rolled back to
     /// the old bundle. 0 when the bundle now holds the package, otherwise -1.
     virtual int PrepareUserEnv();
 
-    /// Undoes an upgrade that an earlier start could not finish, or finishes one whose bundle is
-    /// whole. To be called before the versions are read.
+    /// Undoes an interrupted upgrade, or finishes it if the new bundle is complete. Call this
+    /// before the versions are read.
     void RecoverUserEnv();
     /// Removes the application folder of an older layout; a failure is ignored.
     void RemoveAgedFolders();
@@ -48,7 +48,7 @@ public:
     static ustring GetRootLumarisResourceInstallPath();
 
 protected:
-    int m_timeout = 0;  // milliseconds; no step of the upgrade consults it
+    int m_timeout = 0;  // milliseconds; no step of the upgrade uses it
     ustring m_user_app_path;
     ustring m_target_major_version;
     ustring m_target_minor_version;
@@ -60,7 +60,7 @@ protected:
     ustring m_source_icon_overlay_version;
 };
 
-/// Locations around an application that keeps its data beside its executable.
+/// Paths of an application that keeps its data beside its executable.
 struct PackageInfo {
     PackageInfo();
 

@@ -24,14 +24,15 @@ int qInitResources_texts();
 
 namespace {
 
-/// Makes a write beyond the file size limit, or into a pipe that nobody reads, fail with an error,
-/// which every writer here handles. The signals would end the launcher in the middle of an upgrade.
+/// A write beyond the file size limit, or into a pipe that nobody reads, sends a signal that would
+/// kill the launcher in the middle of an upgrade. Without it the write fails with an error, which
+/// every writer here handles.
 void IgnoreWriteSignals() {
     signal(SIGXFSZ, SIG_IGN);
     signal(SIGPIPE, SIG_IGN);
 }
 
-/// Makes the bundle's plug-in folder the only one, so that the toolkit never mixes in the system's.
+/// Makes Qt load plug-ins from the bundle only, and never from the system.
 void SetPluginPath(const char *executable) {
     const QString path = QDir::cleanPath(QString::fromLocal8Bit(executable) +
                                          QStringLiteral("/../../Frameworks/plugins"));
@@ -40,8 +41,8 @@ void SetPluginPath(const char *executable) {
     fflush(stdout);
 }
 
-/// Makes a folder and its parents, in which no other user can write, whatever the umask: whoever
-/// can write into the per-user folder decides what the user starts.
+/// Makes a folder and its parents, never writable for other users, whatever the umask: whoever can
+/// write to the per-user folder decides which program the user starts.
 bool MakeFolder(const QString &path) {
     const mode_t mask = umask(0);
     umask(mask | S_IWGRP | S_IWOTH);

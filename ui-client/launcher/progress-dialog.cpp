@@ -28,8 +28,8 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     setStyleSheet(
         QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n"
                        "  vertical-align: middle } "));
-    // The background is light in every theme, and the text of a dark theme would be, too. Below the
-    // style sheet a palette of the dialog itself has no effect.
+    // The background is light in every theme, so the light text of a dark theme would vanish. The
+    // style sheet overrides the dialog's own palette, so the label gets one.
     auto *label = findChild<QLabel *>();
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, Qt::black);

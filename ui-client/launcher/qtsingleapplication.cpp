@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Named from the executable's path and the user id, like the component's own lock.
+/// Built from the executable's path and the user id, like the lock file of the original component.
 QByteArray LockName(const QString &executable) {
     const QByteArray id =
         QCryptographicHash::hash(executable.toUtf8(), QCryptographicHash::Sha1).toHex().left(16);
@@ -22,10 +22,9 @@ QByteArray LockName(const QString &executable) {
                                  .arg(getuid(), 0, 16));
 }
 
-/// Opens the lock file, which is created when it is missing. Returns its descriptor, or -1 when
-/// there is none to be had. Everybody may write into the temporary folder: what lies there under
-/// this name may be a link or a pipe, and a file of another user, or one that another user gave a
-/// second name, could be locked by that user.
+/// Opens the lock file and creates it if it is missing. Returns its descriptor, or -1. Everybody
+/// can write to the temporary folder, so a link or a pipe may have this name. A file that another
+/// user owns, or has hard-linked, is refused as well: that user could lock it.
 int OpenLock(const QByteArray &name) {
     const int flags = O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     const int file = open(name.constData(), flags, S_IRUSR | S_IWUSR);

@@ -3,5 +3,6 @@
 
 class Service;
 
-/// A new service for this system; the caller owns it. Tests link another one in its place.
+/// A new service for this system; the caller owns it. Tests link a double in place of this
+/// function.
 Service *NewService();

@@ -17,13 +17,13 @@ namespace {
 
 const char kFirstInstallation[] = "first-installation";
 
-/// Only a clear answer counts: a look that fails may hide the only client of the user.
+/// False also when the path cannot be looked up: the user's only client may be there.
 bool IsMissing(const ustring &path) {
     FILE_INFO info;
     return GetFileInfo(path, info) == 0 && !info.exists;
 }
 
-/// A missing link is a success.
+/// Succeeds as well when the link is missing.
 bool Remove(const ustring &link) {
     if (unlink(link.c_str()) == 0 || errno == ENOENT) {
         return true;
@@ -51,8 +51,8 @@ void UpgradeJournal::Begin(const ustring &backup) {
 }
 
 bool UpgradeJournal::Commit() {
-    // Where the name of the second record is taken, the first one goes: its backup may stay behind,
-    // but is not mistaken for the bundle.
+    // If the name of the second record is taken, only remove the first one. The backup may then
+    // stay behind, but the next start does not put it back.
     if (rename(m_begun.c_str(), m_committed.c_str()) == 0 || unlink(m_begun.c_str()) == 0 ||
         errno == ENOENT) {
         return true;

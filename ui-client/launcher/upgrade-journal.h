@@ -4,13 +4,13 @@
 #include "ustring.h"
 
 /// Records beside the bundle what an upgrade is about to do, so that the next start knows how far
-/// an interrupted one came. The record is a symbolic link, which is made, renamed and removed
-/// whole:
+/// an interrupted upgrade got. The record is a symbolic link, since a link is created, renamed and
+/// removed in a single step:
 ///
 ///     Lumaris.app_upgrade  -> Lumaris.app_tmp   The bundle is being replaced. While the backup
-///                                               exists, what the bundle's name holds is
-///                                               unfinished.
-///     Lumaris.app_upgraded -> Lumaris.app_tmp   The bundle is new. Backups remain to be removed.
+///                                               exists, Lumaris.app is incomplete.
+///     Lumaris.app_upgraded -> Lumaris.app_tmp   The new bundle is complete. The backups have yet
+///                                               to be removed.
 ///
 /// A first installation has no backup; its link names "first-installation" instead.
 ///
@@ -19,19 +19,20 @@ class UpgradeJournal {
 public:
     explicit UpgradeJournal(const ustring &app);
 
-    /// To be called before the bundle is moved to the path `backup`; empty for a first
-    /// installation. Nothing is recorded when something exists where nothing must: the record would
-    /// have the next start take it for the old bundle, or remove it. Without a record the upgrade
-    /// goes on.
+    /// Call this before the bundle is moved to the path `backup`, which is empty for a first
+    /// installation. Records nothing if an entry already exists at `backup` (at the bundle's path
+    /// for a first installation): the next start would take it for the old bundle, or remove it.
+    /// The upgrade goes on without a record.
     void Begin(const ustring &backup);
-    /// The new bundle is whole and on disk. False when the record could not be changed: the backup
-    /// must stay then, since the next start goes back to it.
+    /// Call this when the new bundle is complete and on disk. False when the record could not be
+    /// changed: keep the backup then, since the next start goes back to it.
     bool Commit();
-    /// The bundle was put back, or the backups are gone. False when a record could not be removed.
+    /// Call this when the old bundle is back or the backups are gone. False when a record could not
+    /// be removed.
     bool End();
 
-    /// What earlier starts left: whether there is a record of an upgrade that was begun or
-    /// committed. `backup` becomes the path that it names, empty for a first installation.
+    /// Whether an earlier start left the record of a begun or of a committed upgrade. `backup`
+    /// becomes the path that the record names, empty for a first installation.
     bool IsBegun(ustring &backup) const;
     bool IsCommitted(ustring &backup) const;
 

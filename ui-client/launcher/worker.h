@@ -15,7 +15,7 @@ protected:
     void run() override;
 };
 
-/// Runs the whole service run in one slot, on a thread of its own, and reports by signals only.
+/// Carries out the whole service run in one slot, on its own thread, and reports only by signals.
 ///
 /// Created and destroyed on the GUI thread; destroyed only after `JoinThread`.
 class Worker : public QObject {
@@ -25,7 +25,7 @@ public:
     Worker();
     ~Worker() override;
 
-    /// False when the system has no thread to give; the failure is logged.
+    /// False when the thread cannot be started; the failure is logged.
     bool StartThread();
     /// Asks the thread's event loop to end; does not wait.
     void QuitThread();
@@ -45,7 +45,7 @@ private Q_SLOTS:
 private:
     friend class Launcher;  // connects its start signal to the slot
 
-    /// Everything between the first and the last line of the run, with the per-user folder locked.
+    /// The run itself, with the per-user folder locked.
     void Serve();
     void Upgrade();
 

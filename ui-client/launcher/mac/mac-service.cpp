@@ -23,8 +23,8 @@ namespace {
 
 const int kStopAttempts = 5;  // one per second
 
-/// The process id in the pid file's text, or 0 when the text names no process that could be the
-/// client: 0 and negative ids are process groups, our own among them.
+/// The process id in the text of the pid file, or 0 when it cannot be the client's. kill() takes 0
+/// and negative ids for process groups, our own among them.
 pid_t ClientPid(const ustring &text) {
     const long value = atol(text.c_str());
     if (value <= 0 || value > std::numeric_limits<pid_t>::max() || value == getpid()) {
@@ -37,7 +37,7 @@ int BuildNumber(const ustring &text) {
     return text.empty() ? 0 : atoi(text.c_str());
 }
 
-/// Asks the process to end; kills it when it is still there after the attempts.
+/// Asks the process to end, and kills it if it is still there after all attempts.
 void TerminateProcess(pid_t pid) {
     if (kill(pid, SIGTERM) != 0) {
         const int error = errno;
@@ -117,8 +117,8 @@ bool MacService::IsNeedUpgrade() {
 }
 
 bool MacService::PerUserBinPathExist() {
-    // Existence alone, without permissions: whether the client may be started is the desktop's to
-    // say. What cannot be looked at counts as missing, and is installed again.
+    // Permissions do not matter here: the desktop decides whether the client may be started. A path
+    // that cannot be looked up counts as missing, so the client is installed again.
     const ustring client = m_user_app_path + "/" + kClientExecutable;
     return access(client.c_str(), F_OK) == 0;
 }

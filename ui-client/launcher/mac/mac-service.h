@@ -4,7 +4,7 @@
 #include "lumaris-service.h"
 
 /// The service for macOS: decides about the upgrade, stops the running client and opens the bundle.
-/// It calls nothing of macOS itself (see platform/) and is compiled, run and tested on every
+/// It calls no macOS API itself (platform/ does), so it is compiled, run and tested on every
 /// system.
 ///
 /// Used on the worker thread, in the order `PreUpgrade`, `IsNeedUpgrade`, `HandlePackageUpgrade`
@@ -21,7 +21,7 @@ public:
     void StopService() override;
     /// Stops the client and replaces the per-user bundle. 0 for success.
     int HandlePackageUpgrade() override;
-    /// Opens the per-user bundle; a failure is logged only.
+    /// Opens the per-user bundle; a failure is only logged.
     void PostUpgrade() override;
     /// Loads and logs both versions.
     void PreUpgrade() override;
@@ -30,7 +30,7 @@ public:
 
     /// True when the per-user client executable exists.
     bool PerUserBinPathExist();
-    /// Makes the desktop forget and open the per-user bundle. 0, or -1 when it could not be opened.
+    /// Unregisters the per-user bundle and opens it. 0, or -1 when it could not be opened.
     static int LaunchPerUserBin();
 
     void LoadSourceVerInfo();

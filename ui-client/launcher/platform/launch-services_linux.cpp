@@ -13,9 +13,9 @@
 
 namespace {
 
-/// What posix_spawn does before it starts the program: a session of its own and no standard
-/// streams, since the client outlives the launcher and must not hold its output open. Signals that
-/// the launcher ignores are the client's again.
+/// Starts a program in its own session and without standard streams: the client outlives the
+/// launcher and must not keep the launcher's output open. Signals that the launcher ignores get
+/// their default action back.
 class DetachedStart {
 public:
     DetachedStart() {
@@ -54,12 +54,12 @@ private:
 namespace LaunchServices {
 
 int UnregisterBundle(const QString & /*bundle*/) {
-    return 0;  // No registry of bundles: there is nothing to forget.
+    return 0;  // There is no registry of bundles.
 }
 
 bool OpenBundle(const QString &bundle) {
-    // Not QProcess: what it forks allocates memory before it becomes the client, while another
-    // thread may have held the allocator's lock.
+    // Not QProcess: its child allocates memory between fork() and exec(), which hangs if another
+    // thread held the allocator's lock at the fork.
     return DetachedStart().Run(
         QFile::encodeName(bundle + QLatin1Char('/') + QLatin1String(kClientExecutable)));
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Declares what the launcher calls of Core Services, for scripts/macos.sh.
+// The part of Core Services that the launcher calls, for scripts/macos.sh.
 
 #include <cstdint>
 
