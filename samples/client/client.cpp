@@ -59,9 +59,8 @@ int main() {
 
     const bool ignore = getenv("LUMARIS_CLIENT_IGNORE_SIGTERM") != nullptr;
     int received = 0;
-    do {
-        sigwait(&signals, &received);
-    } while (ignore);
+    while (sigwait(&signals, &received) == 0 && ignore) {
+    }
     Note(logFile, "asked to end,");
     remove(pidFile.c_str());
     return 0;

@@ -53,7 +53,7 @@ bool Launcher::eventFilter(QObject *watched, QEvent *event) {
 
 void Launcher::Run() {
     if (!worker->StartThread()) {
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
     }
 }
 
