@@ -48,7 +48,6 @@ cp -r Client.app big
 head -c 1M /dev/urandom > big/file
 expect 2 usage "$pack" Client.app
 expect 1 "'first' exists" "$pack" Client.app first
-expect 1 "INFO' cannot be read" "$pack" first out
 expect 1 'lies in the client' pack_into_client
 expect 1 "'out' cannot be written: zstd" pack_on_full_disk
 

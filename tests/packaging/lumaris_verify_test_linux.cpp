@@ -75,10 +75,12 @@ TEST_F(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
         {"a file of attributes", {{"._a"}}, "is an AppleDouble"},
         {"a file as the bundle", {{"."}}, "takes the place of the bundle"},
         {"a file twice", {{"a", "1"}, {"a", "2"}}, "'a' is there twice"},
+        {"late permissions", {{"a/b"}, {"a/", "", 0700}}, "before its permissions"},
         {"one name, in case and form", {{"\u00c9"}, {"e\u0301"}}, "is one name with"},
         {"one folder, in case", {{"Lib/a"}, {"lib/b"}}, "'lib' is one name with 'Lib'"},
 
         {"a hard link", {{"h", "", 0644, kInfo}}, "is a hard link"},
+        {"a pipe", {{"p", "", AE_IFIFO | 0644}}, "is neither"},
         {"set-uid", {{"s", "x", 06755}}, "is set-uid"},
         {"a read-only folder", {{"d/", "", 0555}}, "is a folder that its owner"},
 
@@ -100,11 +102,18 @@ TEST_F(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
     }
 }
 
+TEST_F(VerifyTest, RefusesAWrongChecksum) {
+    WritePackage(package, kClient, ARCHIVE_FILTER_NONE, "zip");
+    std::string bytes = ReadFile(package);  // with a list of all files at its end
+    WriteFile(package, bytes.replace(bytes.find("PK\1\2") + 16, 4, "none"));
+    EXPECT_FALSE(IsAccepted());
+    EXPECT_NE(said.find("data that cannot be read"), said.npos) << said;
+}
+
 // As a flipped bit can make it: an empty block in place of a file's header.
 TEST_F(VerifyTest, AnEmptyBlockIsNoEnd) {
     WritePackage(package, kClient);
     WriteFile(package, ReadFile(package).replace(1024, 512, 512, '\0'));
-    EXPECT_FALSE(IsAccepted());
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
 }
 
