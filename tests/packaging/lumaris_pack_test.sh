@@ -33,7 +33,7 @@ expect() {
 }
 
 make_client
-"$pack" Client.app first
+"$pack" Client.app first | grep '7 entries, GNU tar format, zstd'
 # Sorted, but for the two that the launcher goes by, which the verifier wants at the end.
 tar -tf first/package/lumaris.wpk | head -n -2 | sort -c
 

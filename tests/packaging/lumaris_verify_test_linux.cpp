@@ -93,6 +93,7 @@ TEST_F(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
         {"no right to run", {{kClientExecutable, "x"}}, "executable", "gnutar", kClientExecutable},
         {"an empty program", {{kClientExecutable}}, "-ui' is empty", "gnutar", kClientExecutable},
         {"a word as build", {{kInfo, Info("v121")}}, "no build number", "gnutar", kInfo},
+        {"in small letters", {{"Contents/Resources/info"}}, "INFO' is missing", "gnutar", kInfo},
         {"INFO not last", {{kInfo, Info("121")}}, "the last files are not", "gnutar", kInfo},
     };
     for (const Row &row : rows) {
