@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <QCoreApplication>
-#include <QDir>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QTranslator>
@@ -20,7 +19,6 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
     qInitResources_texts();
     StrTable::InitStrTable();
     const std::string same = ReadFile(SOURCES "/translations/unchanged.txt");
-    EXPECT_EQ(20, QDir(QStringLiteral(":/")).entryList({QStringLiteral("*.qm")}).size());
     for (const QString &code : TarnLocale::getSupportedLanguages()) {
         SCOPED_TRACE(qPrintable(code));
         QTranslator translator;
@@ -29,8 +27,8 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
         for (int id = 0; id < 260; ++id) {
             SCOPED_TRACE(StrTable::kRows[id].key);
             const QString text = QString::fromUtf8(StrTable::kRows[id].text);
-            const QString said = translator.translate("global", StrTable::kRows[id].text);
-            EXPECT_FALSE(said.trimmed().isEmpty());
+            const QString said = StrTable::LoadStr(id);
+            EXPECT_EQ(said, translator.translate("global", StrTable::kRows[id].text));
             for (const char *kept : {"%1", "%2", "..."}) {
                 EXPECT_EQ(text.count(QLatin1String(kept)), said.count(QLatin1String(kept))) << kept;
             }
@@ -38,7 +36,6 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
             EXPECT_EQ(text.count(ends), said.count(ends));
             const std::string keep = (code + QLatin1Char('\t') + text).toStdString() + "\n";
             EXPECT_EQ(code == QLatin1String("enu") || same.find(keep) != same.npos, text == said);
-            EXPECT_EQ(said, StrTable::LoadStr(id));
         }
     }
 }
@@ -53,15 +50,18 @@ TEST(StrTable, NumbersAndKeys) {
 }
 
 TEST(TarnLocale, LanguageForLocale) {
-    const char *const cases[][2] = {
+    const char *const rows[][2] = {
         {"zh_hk", "cht"}, {"zh_mo", "cht"}, {"zh_sg", "chs"}, {"es_419", "esn"}, {"pt", "ptg"},
         {"no", "nor"},    {"nn_no", "nor"}, {"fi_fi", "enu"}, {"", "enu"},
     };
-    for (const auto &[locale, code] : cases) {
+    for (const auto &[locale, code] : rows) {
         const QString name = QString::fromLatin1(locale);
         EXPECT_EQ(code, TarnLocale::languageForLocale(name).toStdString()) << locale;
     }
-    // The system chooses among the languages that the bundle lists; their order is that of the IDs.
+}
+
+TEST(TarnLocale, TheSystemChoosesAmongAllLanguages) {
+    // In the order of their IDs.
     const std::string plist = ReadFile(SOURCES "/packaging/bundle/Info.plist.in");
     const QRegularExpression item(QStringLiteral("\n        <string>([^<]+)"));
     QStringList codes;

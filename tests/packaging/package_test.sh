@@ -18,7 +18,8 @@ LUMARIS_PACKAGE=$build/packaging/bundle/package package
 
 mkdir "$work"/{home,tmp}
 dpkg-deb -x "$work"/out/*.deb "$work/root"
-readonly installed=$work/root/opt/lumaris contents=$work/root/opt/lumaris/LumarisLauncher.app/Contents
+readonly installed=$work/root/opt/lumaris
+readonly contents=$installed/LumarisLauncher.app/Contents
 grep -q 'GNU LESSER GENERAL PUBLIC LICENSE' "$work/root/usr/share/doc/lumaris-launcher/copyright"
 "$installed/bin/lumaris-verify" "$contents/Resources/package/lumaris.wpk"
 env -u DISPLAY HOME="$work/home" TMPDIR="$work/tmp" XDG_RUNTIME_DIR="$work/tmp" LC_ALL=C.UTF-8 \

@@ -10,7 +10,6 @@
 #include <QTest>
 #include <QThread>
 #include <atomic>
-#include <clocale>
 #include <cmath>
 
 #include "lumaris-service.h"
@@ -21,14 +20,14 @@
 
 namespace {
 
+/// A run of the service, and what the user sees of it.
 struct RunCase {
+    const char *what;
     bool needed;
-    bool quits;  // the desktop ends the application in the middle of the upgrade
     int result;
-    // Each value of the bar with the first letter of the label then and "h" when hidden, and the
-    // last label.
-    const char *shown;
-    const char *called = "PreUpgrade IsNeedUpgrade HandlePackageUpgrade PostUpgrade destroyed";
+    bool quits;               // the desktop ends the application in the middle of the upgrade
+    std::vector<int> values;  // of the bar
+    const char *label;        // the last one
 };
 const RunCase *run;
 std::string calls;
@@ -61,54 +60,53 @@ public:
 
 using LauncherTest = HomeTest;
 
+/// That of the only launcher.
+QProgressDialog *Dialog() {
+    return qobject_cast<QProgressDialog *>(QApplication::topLevelWidgets().at(0));
+}
+
 TEST_F(LauncherTest, TheDialogFollowsTheRun) {
     const RunCase cases[] = {
-        {true, false, 0, "66f 100f Lumaris Backup is ready."},
-        {true, false, -1, "66f 100f from the relay"},  // and the old client is opened
-        {false, false, 0, "100Lh Lumaris Backup is initializing...",
-         "PreUpgrade IsNeedUpgrade PostUpgrade destroyed"},
-        {true, true, 0, "Lumaris Backup is initializing..."},
+        {"upgraded", true, 0, false, {66, 100}, "Lumaris Backup is ready."},
+        {"failed, and the old client is opened", true, -1, false, {66, 100}, "from the relay"},
+        {"nothing to do", false, 0, false, {100}, "Lumaris Backup is initializing..."},
+        {"ended by the desktop", true, 0, true, {}, "Lumaris Backup is initializing..."},
     };
-    for (const auto &row : cases) {
+    for (const RunCase &row : cases) {
+        SCOPED_TRACE(row.what);
         run = &row;
         calls.clear();
         loop_ended = false;
-        std::string shown;
         auto *launcher = new Launcher;
-        auto *dialog = qobject_cast<QProgressDialog *>(QApplication::topLevelWidgets().at(0));
-        auto *bar = dialog->findChild<QProgressBar *>();
-        QObject::connect(bar, &QProgressBar::valueChanged, bar, [&](int value) {
-            shown += std::to_string(value) + dialog->labelText().toStdString()[0] +
-                     (dialog->isVisible() ? " " : "h ");
+        std::vector<int> values;
+        auto *bar = Dialog()->findChild<QProgressBar *>();
+        QObject::connect(bar, &QProgressBar::valueChanged, bar, [&values, &row](int value) {
+            values.push_back(value);
+            EXPECT_EQ(row.needed, Dialog()->isVisible()) << value;
         });
         launcher->Run();
         launcher->Start();
         EXPECT_EQ(0, QApplication::exec());
-        EXPECT_FALSE(dialog->isVisible());
-        EXPECT_EQ(row.shown, shown + dialog->labelText().toStdString());
+        EXPECT_FALSE(Dialog()->isVisible());
+        EXPECT_EQ(row.values, values);
+        EXPECT_EQ(row.label, Dialog()->labelText().toStdString());
         loop_ended = true;
-        delete launcher;
-        EXPECT_EQ(row.called, calls) << row.shown;
+        delete launcher;  // waits for the service
+        const std::string upgrade = row.needed ? "HandlePackageUpgrade " : "";
+        EXPECT_EQ("PreUpgrade IsNeedUpgrade " + upgrade + "PostUpgrade destroyed", calls);
     }
 }
 
 TEST_F(LauncherTest, OnlyTheSystemClosesTheDialog) {
-    Launcher launcher;
-    auto *dialog = qobject_cast<QProgressDialog *>(QApplication::topLevelWidgets().at(0));
-    EXPECT_EQ("Lumaris Backup", dialog->windowTitle().toStdString());
-    EXPECT_EQ(QSize(400, 400), QSize(dialog->minimumWidth(), dialog->maximumWidth()));
-    EXPECT_EQ(nullptr, dialog->findChild<QPushButton *>());
-    dialog->show();
-    QEvent other(QEvent::WinIdChange);  // one that no widget handles
-    EXPECT_FALSE(QCoreApplication::sendEvent(dialog, &other)) << "taken away from the dialog";
-    QCoreApplication::sendEvent(qApp, &other);
-    QTest::keyClick(dialog, Qt::Key_Escape);
-    EXPECT_FALSE(dialog->close());
-    EXPECT_TRUE(dialog->isVisible());
-
+    const Launcher launcher;
+    Dialog()->show();
+    EXPECT_EQ(nullptr, Dialog()->findChild<QPushButton *>()) << "there is nothing to cancel";
+    QTest::keyClick(Dialog(), Qt::Key_Escape);
+    EXPECT_FALSE(Dialog()->close());
+    EXPECT_TRUE(Dialog()->isVisible());
     QEvent by_the_system(QEvent::Close);
     QCoreApplication::sendEvent(qApp, &by_the_system);
-    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_FALSE(Dialog()->isVisible());
 }
 
 /// As the eye sees it, from 0 for black to 1 for white.
@@ -120,19 +118,18 @@ double Luminance(const QColor &color) {
 
 TEST_F(LauncherTest, IsReadableInADarkTheme) {
     QApplication::setPalette(QColor(50, 50, 50));  // the other colours follow from the window's
-    Launcher launcher;
-    auto *dialog = QApplication::topLevelWidgets().at(0);
-    dialog->show();
-    const QImage label =
-        dialog->grab(dialog->findChild<QLabel *>()->geometry()).toImage();  // and what lies below
+    const Launcher launcher;
+    Dialog()->show();
+    // With what lies below the label's text.
+    const QImage shown = Dialog()->grab(Dialog()->findChild<QLabel *>()->geometry()).toImage();
     QApplication::setPalette(QPalette());
     double darkest = 1, lightest = 0;
-    for (int i = 0; i < label.width() * label.height(); ++i) {
-        const QColor color = label.pixelColor(i % label.width(), i / label.width());
+    for (int i = 0; i < shown.width() * shown.height(); ++i) {
+        const QColor color = shown.pixelColor(i % shown.width(), i / shown.width());
         darkest = std::min(darkest, Luminance(color));
         lightest = std::max(lightest, Luminance(color));
     }
-    EXPECT_GE((lightest + 0.05) / (darkest + 0.05), 7);
+    EXPECT_GE((lightest + 0.05) / (darkest + 0.05), 7);  // the contrast for any eyes
 }
 
 }  // namespace
@@ -145,9 +142,6 @@ Service *NewService() {
 int main(int argc, char **argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
-    if (setlocale(LC_ALL, "C.UTF-8") == nullptr) {
-        setlocale(LC_ALL, "en_US.UTF-8");  // as macOS has it
-    }
     StrTable::InitStrTable();
     return RUN_ALL_TESTS();
 }
