@@ -9,7 +9,7 @@ source scripts/sanitizers.sh
 
 which=(--timeout 600 --parallel "$(nproc)")
 if [ "${1:-}" = --long ]; then
-    which=(--timeout 7200 --tests-regex "(stress|sweep)" --verbose)
+    which=(--timeout 7200 --tests-regex "(stress|sweep|verify)" --verbose)
     export LUMARIS_LONG=1
     shift
 fi

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Packages, each judged by lumaris-verify; the launcher installs those that it accepts.
+// Packages, each judged by lumaris-verify and installed by the launcher, in a plain folder and on a
+// volume with the rules of a Mac.
+
 #include <QCoreApplication>
 
 #include "client-layout.h"
 #include "mac/mac-service.h"
-#include "test-support.h"
+#include "volume-fixture.h"
 
 namespace {
 
@@ -26,8 +28,16 @@ struct Row {
     std::string without = "";
 };
 
-class VerifyTest : public HomeTest {
+class VerifyTest : public VolumeTest, public testing::WithParamInterface<bool> {
 protected:
+    void SetUp() override {
+        if (GetParam() && !MountMacVolume()) {
+            GTEST_SKIP() << "this user cannot mount a volume with FUSE";
+        }
+    }
+    /// What cannot be removed as it is would keep the test's folder from being removed.
+    void TearDown() override { fs::permissions("disk", fs::perms::all); }
+
     void Write(const Row &row) {
         Entries entries = row.more;
         std::copy_if(kClient.begin(), kClient.end(), std::back_inserter(entries),
@@ -49,7 +59,7 @@ protected:
     std::string said;
 };
 
-TEST_F(VerifyTest, AcceptsWhatTheLauncherInstallsAsStored) {
+TEST_P(VerifyTest, AcceptsWhatTheLauncherInstallsAsStored) {
     const Row rows[] = {
         {"cpio", {}, "", "newc"},
         {"zip", {}, "", "zip"},
@@ -65,7 +75,7 @@ TEST_F(VerifyTest, AcceptsWhatTheLauncherInstallsAsStored) {
     }
 }
 
-TEST_F(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
+TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
     const Row rows[] = {
         {"a format without content", {}, "the format is mtree", "mtree"},
 
@@ -100,10 +110,15 @@ TEST_F(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
         Write(row);
         EXPECT_FALSE(IsAccepted()) << row.what;
         EXPECT_NE(said.find(row.expected), said.npos) << row.what << ": " << said;
+        // Whatever the launcher makes of it, the next package repairs.
+        MacService().PrepareUserEnv();
+        Write({"the next", {}, ""});
+        EXPECT_EQ(0, MacService().PrepareUserEnv()) << row.what << ": " << Log();
+        EXPECT_EQ(kClientTree, Tree(app)) << row.what;
     }
 }
 
-TEST_F(VerifyTest, RefusesAWrongChecksum) {
+TEST_P(VerifyTest, RefusesAWrongChecksum) {
     WritePackage(package, kClient, ARCHIVE_FILTER_NONE, "zip");
     std::string bytes = ReadFile(package);  // with a list of all files at its end
     WriteFile(package, bytes.replace(bytes.find("PK\1\2") + 16, 4, "none"));
@@ -112,14 +127,14 @@ TEST_F(VerifyTest, RefusesAWrongChecksum) {
 }
 
 // As a flipped bit can make it: an empty block in place of a file's header.
-TEST_F(VerifyTest, AnEmptyBlockIsNoEnd) {
+TEST_P(VerifyTest, AnEmptyBlockIsNoEnd) {
     WritePackage(package, kClient);
     WriteFile(package, ReadFile(package).replace(1024, 512, 512, '\0'));
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
 }
 
 // In the form that lumaris-pack makes. A few bits of the compression have no meaning.
-TEST_F(VerifyTest, DamageIsRefusedOrHasNoEffect) {
+TEST_P(VerifyTest, DamageIsRefusedOrHasNoEffect) {
     WritePackage(root / "tar", kClient);
     ASSERT_EQ(0, std::system(("zstd -q -9 --check <tar >'" + package + "'").c_str()));
     const std::string whole = ReadFile(package);
@@ -135,5 +150,9 @@ TEST_F(VerifyTest, DamageIsRefusedOrHasNoEffect) {
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(, VerifyTest, testing::Values(false, true), [](const auto &volume) {
+    return volume.param ? "WithTheRulesOfAMac" : "Plain";
+});
 
 }  // namespace
