@@ -35,9 +35,6 @@ protected:
             GTEST_SKIP() << "this user cannot mount a volume with FUSE";
         }
     }
-    /// What cannot be removed as it is would keep the test's folder from being removed.
-    void TearDown() override { fs::permissions("disk", fs::perms::all); }
-
     void Write(const Row &row) {
         Entries entries = row.more;
         std::copy_if(kClient.begin(), kClient.end(), std::back_inserter(entries),
