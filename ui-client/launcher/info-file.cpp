@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "info-file.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -27,6 +28,16 @@ InfoTexts ReadSettings(const QString &path) {
     return texts;
 }
 
+/// In the home folder where the temporary one cannot be written: an INFO file that cannot be read
+/// counts as build 0.
+bool Open(QTemporaryFile &file) {
+    if (file.open()) {
+        return true;
+    }
+    file.setFileTemplate(QDir::homePath() + QStringLiteral("/.lumaris-info-XXXXXX"));
+    return file.open();
+}
+
 }  // namespace
 
 InfoTexts ReadInfoFile(const ustring &path) {
@@ -42,7 +53,7 @@ InfoTexts ReadInfoFile(const ustring &path) {
 
 InfoTexts ParseInfo(const QByteArray &content) {
     QTemporaryFile file;  // QSettings only reads files that have a name
-    if (content.size() > kMaxTextFile || !file.open() ||
+    if (content.size() > kMaxTextFile || !Open(file) ||
         file.write(QByteArray(content).replace('@', kMark)) != content.size() || !file.flush()) {
         return {};
     }

@@ -59,8 +59,7 @@ int BackupApp(const ustring &app, UpgradeJournal &journal, ustring &backup) {
     for (int index = 0; index < kBackupNames; ++index) {
         backup = GetAppBackupDir(app, index);
         rmdir(backup.c_str());  // the rename would replace an empty folder, too
-        journal.Begin(backup);
-        if (FSRename(app, backup, false) == 0) {
+        if (journal.Begin(backup) && FSRename(app, backup, false) == 0) {
             return index;
         }
         journal.End();
@@ -158,6 +157,7 @@ void Rollback(const ustring &app, const ustring &backup, UpgradeJournal &journal
 /// the backup cannot be looked up, the record stays and the next start tries again.
 void GoBack(const ustring &app, const ustring &backup, UpgradeJournal &journal) {
     FILE_INFO info;
+    rmdir(backup.c_str());  // an empty folder is no client
     if (backup.empty()) {
         Discard(app);
         journal.End();

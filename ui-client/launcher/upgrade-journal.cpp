@@ -38,44 +38,57 @@ bool Remove(const ustring &link) {
 UpgradeJournal::UpgradeJournal(const ustring &app)
     : m_app(app), m_begun(app + "_upgrade"), m_committed(app + "_upgraded") {}
 
-void UpgradeJournal::Begin(const ustring &backup) {
+bool UpgradeJournal::Begin(const ustring &backup) {
     if (!IsMissing(backup.empty() ? m_app : backup)) {
-        return;
+        return false;
+    }
+    // Left by an earlier upgrade, it would have the next start remove this one's backup.
+    ustring stale;
+    if (IsCommitted(stale)) {
+        End();
     }
     const ustring target = backup.empty() ? ustring(kFirstInstallation) : FSBaseName(backup);
-    if (symlink(target.c_str(), m_begun.c_str()) != 0) {
+    if (symlink(target.c_str(), m_begun.c_str()) == 0) {
+        m_record = m_begun;
+    } else if (!m_warned) {
         const int error = errno;
         MSG_WARNING("upgrading without a record, '%s': %s (%d)\n", m_begun.c_str(), strerror(error),
                     error);
+        m_warned = true;
     }
+    return true;
 }
 
 bool UpgradeJournal::Commit() {
-    // If the name of the second record is taken, only remove the first one. The backup may then
-    // stay behind, but the next start does not put it back.
-    if (rename(m_begun.c_str(), m_committed.c_str()) == 0 || unlink(m_begun.c_str()) == 0 ||
-        errno == ENOENT) {
+    if (m_record.empty()) {
         return true;
     }
-    const int error = errno;
-    MSG_WARNING("failed to commit the upgrade, '%s': %s (%d)\n", m_begun.c_str(), strerror(error),
-                error);
-    return false;
+    if (rename(m_record.c_str(), m_committed.c_str()) == 0) {
+        m_record = m_committed;
+        return true;
+    }
+    // If the name of the second record is taken, only remove the first one. The backup may then
+    // stay behind, but the next start does not put it back.
+    return End();
 }
 
 bool UpgradeJournal::End() {
-    return Remove(m_begun) && Remove(m_committed);
+    if (!m_record.empty() && !Remove(m_record)) {
+        return false;
+    }
+    m_record.clear();
+    return true;
 }
 
-bool UpgradeJournal::IsBegun(ustring &backup) const {
+bool UpgradeJournal::IsBegun(ustring &backup) {
     return Read(m_begun, backup);
 }
 
-bool UpgradeJournal::IsCommitted(ustring &backup) const {
+bool UpgradeJournal::IsCommitted(ustring &backup) {
     return Read(m_committed, backup);
 }
 
-bool UpgradeJournal::Read(const ustring &link, ustring &backup) const {
+bool UpgradeJournal::Read(const ustring &link, ustring &backup) {
     FILE_INFO info;
     ustring target;
     if (FSStat(link, info, false) != 0 || info.type != FILE_TYPE_SYMLINK ||
@@ -83,5 +96,6 @@ bool UpgradeJournal::Read(const ustring &link, ustring &backup) const {
         return false;
     }
     backup = target == kFirstInstallation ? ustring() : FSParentPath(m_app) + "/" + target;
+    m_record = link;
     return true;
 }
