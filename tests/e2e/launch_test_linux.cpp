@@ -5,18 +5,24 @@
 
 namespace {
 
-TEST_F(LaunchTest, InstallsAndThenLeavesAlone) {
-    EXPECT_EQ(0, Finish(Start({"sh", "-c", "umask 0; exec \"$0\""})));
+TEST_F(LaunchTest, InstallsAndThenLeavesTheClientAlone) {
+    EXPECT_EQ(0, Launch());
     ExpectInstalled("121");
     EXPECT_EQ("lib path = '" + (bundle / "Contents/Frameworks/plugins").string() + "'\n",
               ReadFile(place / "out"));
-    EXPECT_EQ(fs::perms(0755), fs::status(lumaris).permissions()) << "others could write there";
     const pid_t first = ClientPid();
-    WriteFile(lumaris / "app/aged", "x");
+    const fs::path aged = lumaris / "app";  // of an older layout
+    WriteFile(aged / "file", "x");
     EXPECT_EQ(0, Launch());
     EXPECT_TRUE(HasLine("): no need to upgrade\n")) << LauncherLog();
     EXPECT_EQ(first, ClientPid()) << "the client was left running";
-    EXPECT_FALSE(fs::exists(lumaris / "app"));
+    EXPECT_FALSE(fs::exists(aged));
+}
+
+TEST_F(LaunchTest, OthersCannotWriteInTheUsersFolder) {
+    umask(0);
+    EXPECT_EQ(0, Launch());
+    EXPECT_EQ(fs::perms(0755), fs::status(lumaris).permissions());
 }
 
 TEST_F(LaunchTest, WithoutALogFolderErrorsGoToStandardError) {

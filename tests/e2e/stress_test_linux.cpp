@@ -15,13 +15,13 @@ TEST_F(LaunchTest, GoesOnWhenWritesFail) {
     ExpectInstalled("120");
 }
 
-// The one at work waits for its package, so the others meet it, or each other, at the lock.
+// The winner waits for its package, which is a pipe; all others find the lock taken and leave.
 TEST_F(LaunchTest, OneOfManyWorks) {
     const int launchers = kLong ? 50 : 20;
     for (int round = 0; round < (kLong ? 200 : 4); ++round) {
         Install();
         kill(StartToWait(), SIGKILL);  // its lock file stays
-        if (round % 2 == 1) {
+        if (round % 2 == 1) {          // and every other time it is gone
             fs::remove_all(place / "tmp");
             fs::create_directory(place / "tmp");
         }
@@ -29,7 +29,8 @@ TEST_F(LaunchTest, OneOfManyWorks) {
         for (int i = 0; i < launchers; ++i) {
             Start();
         }
-        for (int left = 0; left < launchers; ++left) {  // the killed one, and all but one
+        const int killed = 1, losers = launchers - 1;
+        for (int left = 0; left < killed + losers; ++left) {
             EXPECT_GT(wait(nullptr), 0);
         }
         EXPECT_TRUE(Eventually([this] { return HasLine("): extract package: "); }));
@@ -71,7 +72,7 @@ TEST_F(LaunchTest, WaitsForTheLauncherOfAnotherBundle) {
     EXPECT_TRUE(HasLine("): no need to upgrade\n")) << "it decided before the wait";
 }
 
-// The minute of waiting is skipped.
+// strace makes each sleep return at once, so that the minute of waiting is over soon.
 TEST_F(LaunchTest, GoesOnWhenAnotherLauncherHangs) {
     Install();
     const int other = open(lumaris.c_str(), O_RDONLY | O_CLOEXEC);

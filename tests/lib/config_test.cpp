@@ -37,13 +37,27 @@ TEST_F(ConfigTest, ReadsLines) {
 }
 
 TEST_F(ConfigTest, OneMalformedLineEmptiesTheMap) {
-    for (const char *line : {"name ", "name=", "name= \t\n", "a=two words\n", "a b=1\n", "[a]\n",
-                             "; note\n", "\xC3\xA9=1", "a #=1\n", "a=\"open\n", "a='open\"",
-                             "a='x'y\n", "a='\t'\n", "a=x\x7f\n", "a=x\x01\n", "a=1\n\na;2\n"}) {
-        WriteFile("file", std::string("good=1\n") + line);
+    const struct {
+        const char *what, *line;
+    } rows[] = {
+        {"no =", "name "},
+        {"no value", "name= \t\n"},
+        {"two words", "a=two words\n"},
+        {"a blank in the key", "a b=1\n"},
+        {"a section", "[a]\n"},
+        {"a letter beyond ASCII in the key", "\xC3\xA9=1"},
+        {"a comment before =", "a #=1\n"},
+        {"a quote that stays open", "a=\"open\n"},
+        {"another quote at the end", "a='open\""},
+        {"text behind the quote", "a='x'y\n"},
+        {"a tab in quotes", "a='\t'\n"},
+        {"a control character behind the value", "a=x\x7f\n"},
+    };
+    for (const auto &row : rows) {
+        WriteFile("file", std::string("good=1\n") + row.line);
         Config config;
-        EXPECT_EQ(config.read("file"), -1) << line;
-        EXPECT_EQ(config, Pairs()) << line;
+        EXPECT_EQ(config.read("file"), -1) << row.what;
+        EXPECT_EQ(config, Pairs()) << row.what;
     }
 }
 

@@ -47,9 +47,11 @@ TEST_F(LoggerTest, ThresholdsPerComponent) {
         bool written;
     } cases[] = {
         {"a warning by default", "", Logger::LEVEL_WARNING, true},
-        {"a note by default", "default_component=7\nService_debug=7\n", Logger::LEVEL_NOTE, false},
+        {"a default in the file counts for nobody", "default_component=7\n", Logger::LEVEL_NOTE,
+         false},
+        {"names count in their letter case", "Service_debug=7\n", Logger::LEVEL_NOTE, false},
         {"what the file asks for", "service_debug=7\n", Logger::LEVEL_DEBUG, true},
-        {"what an earlier file asked for", "", Logger::LEVEL_DEBUG, true},
+        {"what the file before asked for stays", "", Logger::LEVEL_DEBUG, true},
         {"no number is level 0", "service_debug=all\n", Logger::LEVEL_ERROR, false},
     };
     Logger::log_level.clear();
@@ -101,11 +103,12 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyte) {
 }
 
 TEST_F(LoggerTest, FollowsAnotherWriterThatRotated) {
+    const std::string other = "from another writer\n";
     fs::remove(log);
-    ++*Logger::log_rotated_count_shared;
-    WriteFile(log, "from another writer\n");
-    Write(FILLS_THE_LOG);  // what others wrote does not count
-    EXPECT_EQ(fs::file_size(log), 20 + LIMIT);
+    WriteFile(log, other);
+    ++*Logger::log_rotated_count_shared;  // as the other does when it has rotated
+    Write(FILLS_THE_LOG);                 // only its own bytes count towards the next rotation
+    EXPECT_EQ(fs::file_size(log), other.size() + LIMIT);
 }
 
 TEST_F(LoggerTest, NoDescriptorStaysOpen) {

@@ -42,11 +42,12 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
 
 TEST(StrTable, NumbersAndKeys) {
     StrTable::InitStrTable();
-    EXPECT_EQ(0, StrTable::LookupStrID(QStringLiteral("TRAY_help")));
-    EXPECT_EQ(259, StrTable::LookupStrID(QStringLiteral("setting_filter_table_desc")));
-    EXPECT_EQ(-1, StrTable::LookupStrID(QStringLiteral("tray_hel")));
-    EXPECT_EQ("Lumaris Backup is ready.", StrTable::LoadStr(39).toStdString());
-    EXPECT_EQ("", StrTable::LoadStr(260).toStdString());
+    const int last = 259;
+    EXPECT_EQ(0, StrTable::LookupStrID(QStringLiteral("TRAY_help"))) << "in any letter case";
+    EXPECT_EQ(last, StrTable::LookupStrID(QStringLiteral("setting_filter_table_desc")));
+    EXPECT_EQ(-1, StrTable::LookupStrID(QStringLiteral("tray_hel"))) << "not a whole key";
+    EXPECT_EQ("Lumaris Backup is ready.", StrTable::LoadStr(StrTable::kReadyText).toStdString());
+    EXPECT_EQ("", StrTable::LoadStr(last + 1).toStdString());
 }
 
 TEST(TarnLocale, LanguageForLocale) {

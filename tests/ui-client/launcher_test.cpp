@@ -23,8 +23,8 @@ namespace {
 /// A run of the service, and what the user sees of it.
 struct RunCase {
     const char *what;
-    bool needed;
     int result;
+    bool needed;
     bool quits;               // the desktop ends the application in the middle of the upgrade
     std::vector<int> values;  // of the bar
     const char *label;        // the last one
@@ -66,11 +66,12 @@ QProgressDialog *Dialog() {
 }
 
 TEST_F(LauncherTest, TheDialogFollowsTheRun) {
+    const int two_thirds = 66;  // what the service reports
     const RunCase cases[] = {
-        {"upgraded", true, 0, false, {66, 100}, "Lumaris Backup is ready."},
-        {"failed, and the old client is opened", true, -1, false, {66, 100}, "from the relay"},
-        {"nothing to do", false, 0, false, {100}, "Lumaris Backup is initializing..."},
-        {"ended by the desktop", true, 0, true, {}, "Lumaris Backup is initializing..."},
+        {"upgraded", 0, true, false, {two_thirds, 100}, "Lumaris Backup is ready."},
+        {"failed, the old client is opened", -1, true, false, {two_thirds, 100}, "from the relay"},
+        {"nothing to do", 0, false, false, {100}, "Lumaris Backup is initializing..."},
+        {"ended by the desktop", 0, true, true, {}, "Lumaris Backup is initializing..."},
     };
     for (const RunCase &row : cases) {
         SCOPED_TRACE(row.what);

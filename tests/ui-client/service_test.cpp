@@ -32,6 +32,7 @@ protected:
 };
 
 TEST_F(ServiceTest, ReadsVersionsWithoutRebuildingObjects) {
+    setenv("TMPDIR", "/none", 1);  // even where no temporary file can be made
     const struct {
         const char *keys, *version;
     } rows[] = {
@@ -46,6 +47,7 @@ TEST_F(ServiceTest, ReadsVersionsWithoutRebuildingObjects) {
         MacService().LoadSourceVersion();
         EXPECT_TRUE(Logged(std::string("source_version = ") + row.version)) << row.keys << Log();
     }
+    unsetenv("TMPDIR");
 }
 
 TEST_F(ServiceTest, UpgradesAnOlderOrMissingClient) {
@@ -53,10 +55,11 @@ TEST_F(ServiceTest, UpgradesAnOlderOrMissingClient) {
         const char *installed, *shipped;
         bool needed;
     } rows[] = {
+        // The settings reader caches by size and time: neighbours differ in length.
         {"9", "10", true},
         {"121", "121", false},
         {"10", "9", false},
-        {"", "5", true},
+        {"", "25", true},
     };
     for (const auto &row : rows) {
         WriteFile(app / kClientExecutable, "client");
@@ -84,14 +87,22 @@ TEST_F(ServiceTest, StopsTheClientAndKillsOneThatStays) {
 }
 
 TEST_F(ServiceTest, SignalsNobodyButTheClient) {
-    // In a group of its own, so that a signal to the group would show.
-    EXPECT_EQ(0, Finish(Child([this] {
-                  setpgid(0, 0);
-                  const long own = getpid();
-                  for (const long pid : {0L, own, -own, (1L << 32) + own}) {
-                      Upgrade(pid);
-                  }
-              })));
+    const pid_t launcher = Child([this] {
+        setpgid(0, 0);  // a group of its own, so that a signal to the group ends this process, too
+        const long own = getpid();
+        Upgrade(0);                 // kill(2) takes it for the own group
+        Upgrade(own);               // the launcher itself
+        Upgrade(-own);              // its group
+        Upgrade((1L << 32) + own);  // the launcher itself, once cut to 32 bits
+    });
+    EXPECT_EQ(0, Finish(launcher)) << "it was signalled";
+}
+
+TEST_F(ServiceTest, AStaleRecordGoesBeforeANewUpgrade) {
+    WriteFile(app, "old");
+    fs::create_symlink("Lumaris.app_tmp1", app.string() + "_upgraded");
+    EXPECT_EQ(-1, service.PrepareUserEnv()) << "there is no package";
+    EXPECT_EQ("Lumaris.app=old", Tree(lumaris)) << "it would remove the backup of the next upgrade";
 }
 
 TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
