@@ -49,7 +49,8 @@ public:
     ~ustring();
 
     // A source may lie in the string's own buffers. Counted forms take at most `n` bytes or units
-    // and stop at a NUL, as do the std::string forms. A position beyond the source throws
+    // and stop at a NUL, unless the source is the string's own text from its start; the std::string
+    // forms stop at a NUL, too. A position beyond the source throws
     // std::out_of_range. Malformed UTF-16 empties the string.
     ustring &assign(const ustring &s, unsigned long pos, unsigned long n);
     ustring &assign(const char *s) { return assign(s, npos); }

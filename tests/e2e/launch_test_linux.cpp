@@ -8,10 +8,8 @@ namespace {
 TEST_F(LaunchTest, InstallsAndThenLeavesTheClientAlone) {
     EXPECT_EQ(0, Launch());
     ExpectInstalled("121");
-    EXPECT_EQ("lib path = '" + (bundle / "Contents/Frameworks/plugins").string() + "'\n",
-              ReadFile(place / "out"));
     const pid_t first = ClientPid();
-    const fs::path aged = lumaris / "app";  // of an older layout
+    const fs::path aged = lumaris / "app";  // of an older layout, removed at every start
     WriteFile(aged / "file", "x");
     EXPECT_EQ(0, Launch());
     EXPECT_TRUE(HasLine("): no need to upgrade\n")) << LauncherLog();
@@ -23,6 +21,12 @@ TEST_F(LaunchTest, OthersCannotWriteInTheUsersFolder) {
     umask(0);
     EXPECT_EQ(0, Launch());
     EXPECT_EQ(fs::perms(0755), fs::status(lumaris).permissions());
+}
+
+TEST_F(LaunchTest, SaysWhereItLooksForPlugIns) {
+    EXPECT_EQ(0, Launch());
+    EXPECT_EQ("lib path = '" + (bundle / "Contents/Frameworks/plugins").string() + "'\n",
+              ReadFile(place / "out"));
 }
 
 TEST_F(LaunchTest, WithoutALogFolderErrorsGoToStandardError) {
@@ -124,10 +128,11 @@ protected:
         ExpectLaunch("121");
         close(other);
     }
-    fs::path lock;
+    fs::path lock;  // of the single instance, in the temporary folder
 };
 
-TEST_F(LockTest, AFileWithASecondNameStopsNobody) {
+// Another user may have linked a file to the lock's name, and could hold its lock for ever.
+TEST_F(LockTest, AHardLinkedFileStopsNobody) {
     fs::create_hard_link(lock, place / "tmp/other");
     ExpectUpgrade();
 }

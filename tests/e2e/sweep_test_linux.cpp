@@ -128,15 +128,15 @@ TEST_F(SweepTest, KilledAtAnyCall) {
     for (const Scenario scenario : {kFirst, kUpgrade, kRollback}) {
         Prepare(scenario);
         for (const Point &point : Points()) {
-            SCOPED_TRACE(testing::PrintToString(point) + std::to_string(scenario));
+            SCOPED_TRACE(testing::PrintToString(point) + " scenario " + std::to_string(scenario));
             Prepare(scenario);
             Kill(point);
-            if (point.first ==
-                "syncfs") {  // what goes to the disk is whole, the backup still there
+            // The sync comes when the new bundle is whole and before the backup goes.
+            if (point.first == "syncfs") {
                 EXPECT_EQ(new_tree, Tree(app));
                 EXPECT_EQ(scenario == kUpgrade, fs::exists(Backup()));
             }
-            if (scenario == kUpgrade) {
+            if (scenario == kUpgrade) {  // the one that had a client and replaces it
                 ExpectAWholeClient();
             }
             StartAgain();
@@ -193,13 +193,16 @@ TEST_F(SweepTest, FailingCalls) {
     }
 }
 
-// What the launcher wrote since is not on the disk yet, unless it was synced; only INFO is, which
-// some other program has synced.
+// The home lies on a disk image. A copy of the mounted image lacks what was not synced: it is what
+// a power cut leaves. INFO alone is synced, as another program might do.
 TEST_F(SweepTest, PowerLost) {
+    const char *const make_disk = "truncate -s 64M \"$disk\" && mkfs.ext4 -q \"$disk\"";
+    const char *const mount_disk = "mount -o loop \"$disk\" \"$home\" 2>/dev/null";
+    const char *const cut_power =
+        "cp \"$disk\" \"$disk.cut\" && umount -l \"$home\" && mv \"$disk.cut\" \"$disk\"";
     setenv("disk", (place / "disk").c_str(), 1);
     setenv("home", home.c_str(), 1);
-    if (system("truncate -s 64M \"$disk\" && mkfs.ext4 -q \"$disk\" && "
-               "mount -o loop \"$disk\" \"$home\" 2>/dev/null") != 0) {
+    if (system(make_disk) != 0 || system(mount_disk) != 0) {
         GTEST_SKIP() << "needs to mount an image";
     }
     Prepare(kUpgrade);
@@ -211,11 +214,11 @@ TEST_F(SweepTest, PowerLost) {
         Prepare(kUpgrade);
         EXPECT_EQ(0, system("sync -f \"$home\""));
         Kill(point);
-        const int written = open((app / "Contents/Resources/INFO").c_str(), O_RDONLY | O_CLOEXEC);
-        fsync(written);
-        close(written);
-        EXPECT_EQ(0, system("cp \"$disk\" \"$disk.cut\" && umount -l \"$home\" && "
-                            "mv \"$disk.cut\" \"$disk\" && mount -o loop \"$disk\" \"$home\""));
+        const int info_file = open((app / "Contents/Resources/INFO").c_str(), O_RDONLY | O_CLOEXEC);
+        fsync(info_file);
+        close(info_file);
+        EXPECT_EQ(0, system(cut_power));
+        EXPECT_EQ(0, system(mount_disk));
         ExpectAWholeClient();
         StartAgain();
     }

@@ -16,7 +16,8 @@ TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
         gen.m_key[i] = static_cast<unsigned char>("Key"[i % 3]);
     }
     TmpNameGen::rc4_init(gen.m_sbox, gen.m_key);
-    // "Key" is a published test vector: eb9f77 81b734 and, without the restart, ca72a7.
+    // The published stream for "Key" begins with eb9f77 81b734: the first name. It would go on with
+    // ca72a7; a restart of the indices gives the other two names instead.
     for (const char *name : {"WVZTwrsQ", "lnIM_-bL", "FVonc5Qc"}) {
         EXPECT_STREQ(gen.getTmpName().c_str(), name);
     }

@@ -135,6 +135,8 @@ std::string FirstDifference(const uint8_t *data, size_t size) try {
     ustring u;
     std::string s;
     const uint8_t *const end = data + size;
+    // Eight bytes make an edit: [0] which one and the number of pieces, [1] to [5] the pieces, [6]
+    // the position, [7] the count.
     while (end - data >= 8 && s.size() < 5000) {  // doubling has no end otherwise
         std::string x;
         for (int i = data[0] % 6; i > 0; --i) {
@@ -184,6 +186,7 @@ TEST(UstringTest, DoesWhatTheModelDoes) {
     }
     const std::string said = testing::internal::GetCapturedStderr();
     ASSERT_EQ(difference, "") << "seed " << seed;
+    // Malformed text was among it both ways; 10 is U_INVALID_CHAR_FOUND.
     EXPECT_NE(said.find("Warning: u_strFromUTF8: error code 10 at line "), said.npos);
     EXPECT_NE(said.find("Warning: u_strToUTF8: error code 10 at line "), said.npos);
 }
@@ -217,6 +220,7 @@ TEST(UstringTest, ThrowsBeyondItsEnds) {
 TEST(UstringTest, KeepsNulBytesWhenAssignedToItself) {
     ustring s("abc");
     s.append('\0', 1).append('d', 1);
+    // The text is "abc", a NUL and "d".
     EXPECT_EQ(s.assign(s.c_str()).length(), 5);
     EXPECT_EQ(s.assign(s.c_str(), 4).length(), 4);
 }

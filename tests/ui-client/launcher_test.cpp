@@ -66,7 +66,7 @@ QProgressDialog *Dialog() {
 }
 
 TEST_F(LauncherTest, TheDialogFollowsTheRun) {
-    const int two_thirds = 66;  // what the service reports
+    const int two_thirds = 66;  // of UpdateProgress(3, 2), in percent
     const RunCase cases[] = {
         {"upgraded", 0, true, false, {two_thirds, 100}, "Lumaris Backup is ready."},
         {"failed, the old client is opened", -1, true, false, {two_thirds, 100}, "from the relay"},

@@ -119,7 +119,7 @@ TEST_F(ServiceTest, RecoversByTheRecord) {
     const char *const tmp = "Lumaris.app_tmp";
     const struct {
         const char *what;
-        std::map<std::string, std::string> files;  // by what follows the bundle's name
+        std::map<std::string, std::string> files;  // by suffix; "1" is half of a bundle
         const char *record, *target;               // the link beside them
         const char *recovered;                     // all of it afterwards
     } rows[] = {
