@@ -77,20 +77,6 @@ TEST_F(LaunchTest, FollowsALinkToAnInfoFile) {
     EXPECT_TRUE(HasLine("): no need to upgrade\n")) << LauncherLog();
 }
 
-// The limit counts the threads of a user, and not those of root.
-TEST_F(LaunchTest, LeavesWithoutAThread) {
-    fs::permissions(root, fs::perms(0711));
-    std::vector<std::string> under = {"prlimit", "--nproc=1"};
-    if (geteuid() == 0) {
-        for (const fs::path &path : {home, place / "tmp"}) {
-            EXPECT_EQ(0, chown(path.c_str(), 65534, 65534));
-        }
-        under.insert(under.begin(), {"setpriv", "--reuid=65534", "--clear-groups"});
-    }
-    EXPECT_EQ(0, Finish(Start(under)));
-    EXPECT_TRUE(HasLine("failed to start the worker thread\n")) << LauncherLog() << Err();
-}
-
 TEST_F(LaunchTest, PassesOverNineTakenBackupNames) {
     Install();
     for (int index = 0; index < 9; ++index) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Writes that fail, many launchers at once, launchers of two bundles, many upgrades in a row.
+// Writes that fail, no thread to be had, many launchers at once, launchers of two bundles, many
+// upgrades in a row.
 
 #include <sys/file.h>
 
@@ -15,6 +16,20 @@ TEST_F(LaunchTest, GoesOnWhenWritesFail) {
     const std::string unread = "\"$0\" 2>&1 | :";
     Finish(Start({"prlimit", "--fsize=4096", "sh", "-c", unread}));  // the status is that of ":"
     ExpectInstalled("120");
+}
+
+// The limit counts the threads of a user, and not those of root.
+TEST_F(LaunchTest, LeavesWithoutAThread) {
+    fs::permissions(root, fs::perms(0711));
+    std::vector<std::string> under = {"prlimit", "--nproc=1"};
+    if (geteuid() == 0) {
+        for (const fs::path &path : {home, place / "tmp"}) {
+            EXPECT_EQ(0, chown(path.c_str(), 65534, 65534));
+        }
+        under.insert(under.begin(), {"setpriv", "--reuid=65534", "--clear-groups"});
+    }
+    EXPECT_EQ(0, Finish(Start(under)));
+    EXPECT_TRUE(HasLine("failed to start the worker thread\n")) << LauncherLog() << Err();
 }
 
 // The winner waits for its package, which is a pipe; all others find the lock taken and leave.

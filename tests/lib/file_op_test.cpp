@@ -138,10 +138,11 @@ TEST_F(FileOpTest, MakesFolders) {
 TEST_F(FileOpTest, MakesAllFoldersOfAPath) {
     WriteFile("e\u0301/file", "");
     WriteFile("old", "");
-    char *stop = nullptr;
-    EXPECT_EQ(FSMKDirP("\u00E9/x/y", &stop, false, 0775), 0);
+    const ustring whole("\u00E9/x/y"), blocked("\u00E9/file/x/y");
+    char *stop = nullptr;  // points into the path's text
+    EXPECT_EQ(FSMKDirP(whole, &stop, false, 0775), 0);
     EXPECT_STREQ(stop, "") << "the end";
-    EXPECT_EQ(FSMKDirP("\u00E9/file/x/y", &stop, false, 0xFFFF), -1);
+    EXPECT_EQ(FSMKDirP(blocked, &stop, false, 0xFFFF), -1);
     EXPECT_EQ(errno, ENOTDIR);
     EXPECT_STREQ(stop, "/y") << "not reached";
     EXPECT_EQ(FSMKDirP(Full("old/x"), nullptr, true, 0xFFFF), 0) << "in place of a file";
