@@ -144,8 +144,6 @@ public:
     static bool is_ascii(const ustring &s);
 
 private:
-    friend struct ustring_test_access;
-
     void init();
     void realloc_data(unsigned long n);
     void realloc_wdata(unsigned long n) const;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writes that fail, no thread to be had, many launchers at once, launchers of two bundles, many
-// upgrades in a row.
+// Writes that fail, no thread to be had, many launchers at once, launchers of two bundles.
 
 #include <sys/file.h>
 
@@ -57,24 +56,13 @@ TEST_F(LaunchTest, OneOfManyWorks) {
     }
 }
 
-TEST_F(LaunchTest, TwoBundlesOnOneHome) {
-    const fs::path newer = bundle, older = place / "Older.app";
-    fs::copy(bundle, older, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
-    Ship("122");
-    ExpectLaunch("122");
-    const std::string whole = Tree(app);
-    for (int round = 0; round < (kLong ? 200 : 5); ++round) {
-        Install();
-        const pid_t first = Start();
-        bundle = older;
-        const pid_t second = Start();
-        bundle = newer;
-        EXPECT_EQ(0, Finish(first));
-        EXPECT_EQ(0, Finish(second));
-        ExpectLaunch("122");
-        EXPECT_EQ(whole, Tree(app)) << "round " << round << LauncherLog();
-        EXPECT_EQ("", Leftovers()) << "round " << round;
-    }
+TEST_F(LaunchTest, LocksTheFolderDuringItsUpgrade) {
+    const pid_t launcher = StartToWait();
+    const int folder = open(lumaris.c_str(), O_RDONLY | O_CLOEXEC);
+    EXPECT_EQ(-1, flock(folder, LOCK_EX | LOCK_NB)) << "another one could upgrade, too";
+    close(folder);
+    StopClient();  // and the launcher
+    Finish(launcher);
 }
 
 TEST_F(LaunchTest, WaitsForTheLauncherOfAnotherBundle) {
@@ -98,28 +86,6 @@ TEST_F(LaunchTest, GoesOnWhenAnotherLauncherHangs) {
                          "-einject=clock_nanosleep:retval=0"});
     EXPECT_TRUE(HasLine("[WARNING] lumaris-service")) << LauncherLog();
     close(other);
-}
-
-TEST_F(LaunchTest, UpgradesInARowLeaveNothingBehind) {
-    const auto entries = [](const fs::path &folder) {
-        std::error_code none;
-        return std::distance(fs::recursive_directory_iterator(folder, none), {});
-    };
-    std::ptrdiff_t first = 0;
-    for (int build = 1000; build <= (kLong ? 1300 : 1003); ++build) {
-        const pid_t before = ClientPid();
-        Ship(std::to_string(build));
-        EXPECT_EQ(0, Launch());
-        EXPECT_TRUE(Eventually([&] { return ClientPid() > 0 && ClientPid() != before; }));
-        ExpectInstalled(std::to_string(build));
-        EXPECT_TRUE(before == 0 || kill(before, 0) != 0) << "the client of the build before runs";
-        first = first == 0 ? entries(place) : first;
-        EXPECT_EQ(first, entries(place));
-    }
-    // The client inherits no descriptor: it has the standard three and its pid file.
-    const int expected = 3 + 1;
-    const fs::path opened = "/proc/" + std::to_string(ClientPid()) + "/fd";
-    EXPECT_TRUE(Eventually([&] { return entries(opened) == expected; })) << entries(opened);
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 #include "file-op.h"
 
 #include <cerrno>
-#include <csignal>
 
-#include "sync-volume.h"
 #include "test-support.h"
 
 namespace {
@@ -64,22 +62,6 @@ TEST_F(FileOpTest, FindsNothingBeneathAFile) {
     EXPECT_FALSE(info.exists);
     EXPECT_EQ(FSStat("", info, false), -1);
     EXPECT_FALSE(IsFileExist("", false));
-}
-
-TEST_F(FileOpTest, FindsAFileThatIsReplacedMeanwhile) {
-    WriteFile("file", "");
-    const pid_t writer = Child([] {
-        for (;; fs::rename("new", "file")) {
-            WriteFile("new", "");
-        }
-    });
-    int missed = 0;
-    for (int i = 0; i < 3000; ++i) {
-        missed += !IsFileExist("file", false);
-    }
-    kill(writer, SIGKILL);
-    Finish(writer);
-    EXPECT_LE(missed, 3);  // now and then a writer that never pauses wins
 }
 
 TEST_F(FileOpTest, Copies) {
@@ -230,13 +212,6 @@ TEST_F(FileOpTest, ComparesDescriptions) {
     for (const FILE_INFO &other : {exists, size, mtime, type, path, name}) {
         EXPECT_TRUE(other != FILE_INFO());
     }
-}
-
-TEST_F(FileOpTest, GivesUpOnWhatIsGone) {
-    ustring path(".");
-    fs::remove_all(home);
-    EXPECT_EQ(FSGetRealPath(path), -1);
-    EXPECT_EQ(SyncVolume("none"), -1);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "logger.h"
 
-#include <syslog.h>
-
 #include <future>
 
 #include "test-support.h"
@@ -11,7 +9,6 @@ namespace {
 
 constexpr size_t STAMP = sizeof("Jan 31 23:59:59 ") - 1, LIMIT = 1048576;
 const std::string FILLS_THE_LOG(LIMIT - STAMP, 'x');  // to the last byte before it is rotated
-int syslog_messages = 0;
 
 /// What follows the time stamp of now at the start of `text`.
 std::string AfterStamp(const std::string &text) {
@@ -64,26 +61,6 @@ TEST_F(LoggerTest, ThresholdsPerComponent) {
     }
 }
 
-TEST_F(LoggerTest, StandardErrorGetsStampedMessages) {
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(Start("", Logger::TYPE_STDERR), 0);
-    Write("err\n");
-    EXPECT_EQ(AfterStamp(testing::internal::GetCapturedStderr()), "err\n");
-}
-
-TEST_F(LoggerTest, SystemLogGetsMessagesUnlessDestroyed) {
-    syslog_messages = 0;
-    EXPECT_EQ(Start("", Logger::TYPE_SYSLOG), 0);
-    Write("text");
-    EXPECT_EQ(syslog_messages, 1);
-    Logger::Destroy();
-    Write("too late");
-    EXPECT_EQ(syslog_messages, 1);
-    Logger::log_initialized = true;  // as in a program that has not set up its log yet
-    Write("early");
-    EXPECT_EQ(syslog_messages, 2);
-}
-
 TEST_F(LoggerTest, RotatesBeyondOneMebibyte) {
     for (int i = 0; i < 8; ++i) {
         WriteFile(Rotated(i), std::to_string(i));
@@ -109,22 +86,6 @@ TEST_F(LoggerTest, FollowsAnotherWriterThatRotated) {
     ++*Logger::log_rotated_count_shared;  // as the other does when it has rotated
     Write(FILLS_THE_LOG);                 // only its own bytes count towards the next rotation
     EXPECT_EQ(fs::file_size(log), other.size() + LIMIT);
-}
-
-TEST_F(LoggerTest, NoDescriptorStaysOpen) {
-    const int lowest = fileno(Logger::log_fp);
-    EXPECT_EQ(Logger::Rotate(), 0);
-    Logger::ReloadLogFile();
-    ++*Logger::log_rotated_count_shared;
-    Write("text\n");  // opens what another writer made
-    EXPECT_EQ(fileno(Logger::log_fp), lowest);
-}
-
-TEST_F(LoggerTest, AFailedStartKeepsTheEarlierStream) {
-    EXPECT_EQ(Start(root), -1);
-    Write(FILLS_THE_LOG);
-    Write("last\n");  // it is not rotated
-    EXPECT_EQ(fs::file_size(log), LIMIT + STAMP + 5);
 }
 
 TEST_F(LoggerTest, AFailedRotationDropsMessagesUntilReloaded) {
@@ -159,11 +120,3 @@ TEST_F(LoggerTest, MessagesOfEightThreadsStayWhole) {
 }
 
 }  // namespace
-
-// These replace the C library's functions; hardened builds call the second one.
-extern "C" void vsyslog(int priority, const char *, va_list) {
-    syslog_messages += priority == LOG_ERR;
-}
-extern "C" void __vsyslog_chk(int priority, int, const char *, va_list) {
-    syslog_messages += priority == LOG_ERR;
-}

@@ -8,11 +8,6 @@
 #include <iostream>
 #include <random>
 
-struct ustring_test_access {
-    static unsigned long bytes(const ustring &s) { return s.m_data_cap; }
-    static unsigned long units(const ustring &s) { return s.m_wdata_cap; }
-};
-
 namespace {
 
 /// The UTF-16 form; empty for text that is not UTF-8.
@@ -191,38 +186,10 @@ TEST(UstringTest, DoesWhatTheModelDoes) {
     EXPECT_NE(said.find("Warning: u_strToUTF8: error code 10 at line "), said.npos);
 }
 
-TEST(UstringTest, BuffersShrinkWithTheText) {
-    ustring s("abcdefghij");
-    s = "abcd";
-    EXPECT_EQ(ustring_test_access::bytes(s), 11) << "at most twice what the text takes";
-    s = "abc";
-    EXPECT_EQ(ustring_test_access::bytes(s), 4);
-}
-
-TEST(UstringTest, ConversionsFitTheText) {
-    const std::pair<unsigned short, unsigned long> texts[] = {{'x', 9}, {0xE9, 9}, {0xE9, 2000}};
-    for (const auto &[unit, n] : texts) {
-        ustring wide;
-        wide.append(unit, n);
-        EXPECT_EQ(ustring_test_access::bytes(wide), wide.length() + 1) << n << " of " << unit;
-        const ustring narrow(wide.c_str());
-        narrow.c_str_utf16();
-        EXPECT_EQ(ustring_test_access::units(narrow), n + 1) << n << " of " << unit;
-    }
-}
-
 TEST(UstringTest, ThrowsBeyondItsEnds) {
     ustring s("abc");
     EXPECT_THROW(s.append('x', ustring::npos), std::bad_alloc);
     EXPECT_THROW(s.substr(4, 0), std::out_of_range);
-}
-
-TEST(UstringTest, KeepsNulBytesWhenAssignedToItself) {
-    ustring s("abc");
-    s.append('\0', 1).append('d', 1);
-    // The text is "abc", a NUL and "d".
-    EXPECT_EQ(s.assign(s.c_str()).length(), 5);
-    EXPECT_EQ(s.assign(s.c_str(), 4).length(), 4);
 }
 
 TEST(UstringTest, FoldsAsciiOnly) {

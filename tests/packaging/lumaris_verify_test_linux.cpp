@@ -39,7 +39,7 @@ protected:
         Entries entries = row.more;
         std::copy_if(kClient.begin(), kClient.end(), std::back_inserter(entries),
                      [&row](const PackageEntry &own) { return own.name != row.without; });
-        WritePackage(package, entries, ARCHIVE_FILTER_NONE, row.format);
+        WritePackage(package, entries, row.format);
     }
     /// Whether lumaris-verify accepts the package; `said` is what it printed.
     bool IsAccepted() {
@@ -116,7 +116,7 @@ TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
 }
 
 TEST_P(VerifyTest, RefusesAWrongChecksum) {
-    WritePackage(package, kClient, ARCHIVE_FILTER_NONE, "zip");
+    WritePackage(package, kClient, "zip");
     std::string bytes = ReadFile(package);  // with a list of all files at its end
     WriteFile(package, bytes.replace(bytes.find("PK\1\2") + 16, 4, "none"));
     EXPECT_FALSE(IsAccepted());

@@ -90,7 +90,7 @@ protected:
         });
     }
     int Launch() { return Finish(Start()); }
-    /// Starts a launcher that waits for its package, which is a pipe then, until `LetGo`.
+    /// Starts a launcher that waits for its package, which is a pipe then.
     pid_t StartToWait() {
         fs::remove(package);
         EXPECT_EQ(0, mkfifo(package.c_str(), 0600));
@@ -98,7 +98,6 @@ protected:
         EXPECT_TRUE(Eventually([this] { return HasLine("): extract package: "); }));
         return launcher;
     }
-    void LetGo() const { close(open(package.c_str(), O_WRONLY)); }
 
     std::string LauncherLog() const { return ReadFile(lumaris / "log/launcher.log"); }
     bool HasLine(const std::string &text) const { return LauncherLog().find(text) != text.npos; }
@@ -108,13 +107,9 @@ protected:
     pid_t ClientPid() const { return atoi(ReadFile(lumaris / "ui.pid").erase(0, 4).c_str()); }
     /// Ends every program of this place, a client that has not written its pid file yet included.
     void StopClient() const {
+        const std::string end_all = "pkill -KILL -f '^" + place.string() + "/'";
+        EXPECT_NE(-1, system(end_all.c_str()));
         std::error_code none;
-        for (const auto &process : fs::directory_iterator("/proc", none)) {
-            const std::string program = fs::read_symlink(process.path() / "exe", none).string();
-            if (program.rfind(place.string() + "/", 0) == 0) {
-                kill(atoi(process.path().filename().c_str()), SIGKILL);
-            }
-        }
         fs::remove(lumaris / "ui.pid", none);
     }
 

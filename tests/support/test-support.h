@@ -138,11 +138,10 @@ struct PackageEntry {
 using Entries = std::vector<PackageEntry>;
 
 inline void WritePackage(const fs::path &path, const Entries &entries,
-                         int filter = ARCHIVE_FILTER_NONE, const char *format = "gnutar") {
+                         const char *format = "gnutar") {
     fs::create_directories(path.parent_path());
     struct archive *writer = archive_write_new();
     ASSERT_EQ(ARCHIVE_OK, archive_write_set_format_by_name(writer, format)) << format;
-    ASSERT_EQ(ARCHIVE_OK, archive_write_add_filter(writer, filter)) << filter;
     ASSERT_EQ(ARCHIVE_OK, archive_write_open_filename(writer, path.c_str()));
     for (const PackageEntry &item : entries) {
         struct archive_entry *entry = archive_entry_new();
