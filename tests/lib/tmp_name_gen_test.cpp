@@ -23,8 +23,4 @@ TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
     }
 }
 
-TEST(TmpNameGen, DrawsAnotherNameEachTime) {
-    EXPECT_NE(TmpNameGen::getInstance().getTmpName(), TmpNameGen::getInstance().getTmpName());
-}
-
 }  // namespace

@@ -41,30 +41,11 @@ TEST_F(VolumeTest, RefusesNamesThatAreNotUtf8) {
     EXPECT_EQ(Tree("bad"), "\xFE=text \xFF=text");
 }
 
-TEST_F(VolumeTest, TellsThatAWriteIsRefused) {
-    WriteFile("file", "text");
-    EXPECT_EQ(FSCopy("file", "/proc/self/coredump_filter", false), -1) << "it opens, no more";
-}
-
-TEST_F(VolumeTest, TellsThatARemovalIsRefused) {
-    EXPECT_EQ(FSRemove("/proc/version", false), -3);
-}
-
 // Linux only: the links of a Mac are shorter.
 TEST_F(VolumeTest, RefusesALinkThatMayHaveBeenCut) {
     ustring text;
     EXPECT_EQ(FSCreateSymbolicLink(std::string(1024, 'x'), "long"), 0);
     EXPECT_EQ(FSReadSymbolicLink("long", text), -1);
-}
-
-// Linux only: a Mac has read the entries ahead.
-TEST_F(VolumeTest, TellsThatAFolderCannotBeRead) {
-    DIR_HANDLE handle;
-    DIR_ENTRY entry;
-    EXPECT_EQ(FSOpenDir("disk", 0, handle), 0);
-    close(dirfd(handle.dir));
-    EXPECT_EQ(FSReadDir(handle, entry), -1);
-    FSCloseDir(handle);
 }
 
 TEST_F(VolumeTest, FindsAnyLetterCaseWhereAMacDoes) {
