@@ -43,12 +43,8 @@ TEST_F(ConfigTest, OneMalformedLineEmptiesTheMap) {
         {"no =", "name "},
         {"no value", "name= \t\n"},
         {"two words", "a=two words\n"},
-        {"a blank in the key", "a b=1\n"},
-        {"a section", "[a]\n"},
         {"a letter beyond ASCII in the key", "\xC3\xA9=1"},
-        {"a comment before =", "a #=1\n"},
         {"a quote that stays open", "a=\"open\n"},
-        {"another quote at the end", "a='open\""},
         {"text behind the quote", "a='x'y\n"},
         {"a tab in quotes", "a='\t'\n"},
         {"a control character behind the value", "a=x\x7f\n"},
@@ -67,7 +63,6 @@ TEST_F(ConfigTest, EarlierEntriesStay) {
     config["old"] = config["again"] = "1";
     EXPECT_EQ(config.read("file"), 0);
     EXPECT_EQ(config.read("missing"), -1);
-    EXPECT_EQ(config.read(""), -1);
     EXPECT_EQ(config, (Pairs{{"old", "1"}, {"again", "2"}}));
 }
 

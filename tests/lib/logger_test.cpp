@@ -44,8 +44,6 @@ TEST_F(LoggerTest, ThresholdsPerComponent) {
         bool written;
     } cases[] = {
         {"a warning by default", "", Logger::LEVEL_WARNING, true},
-        {"a default in the file counts for nobody", "default_component=7\n", Logger::LEVEL_NOTE,
-         false},
         {"names count in their letter case", "Service_debug=7\n", Logger::LEVEL_NOTE, false},
         {"what the file asks for", "service_debug=7\n", Logger::LEVEL_DEBUG, true},
         {"what the file before asked for stays", "", Logger::LEVEL_DEBUG, true},
@@ -77,15 +75,6 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyte) {
     Write("new\n");
     Write(FILLS_THE_LOG.substr(STAMP + 4));  // full again, to the last byte
     EXPECT_EQ(fs::file_size(log), LIMIT);
-}
-
-TEST_F(LoggerTest, FollowsAnotherWriterThatRotated) {
-    const std::string other = "from another writer\n";
-    fs::remove(log);
-    WriteFile(log, other);
-    ++*Logger::log_rotated_count_shared;  // as the other does when it has rotated
-    Write(FILLS_THE_LOG);                 // only its own bytes count towards the next rotation
-    EXPECT_EQ(fs::file_size(log), other.size() + LIMIT);
 }
 
 TEST_F(LoggerTest, AFailedRotationDropsMessagesUntilReloaded) {

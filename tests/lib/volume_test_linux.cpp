@@ -28,26 +28,6 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     EXPECT_EQ(Tree("disk"), "late/ late/file=4 src/ src/link->file");
 }
 
-// On a Mac all names are valid.
-TEST_F(VolumeTest, RefusesNamesThatAreNotUtf8) {
-    for (const char *file : {"bad/\xFE", "bad/\xFF"}) {
-        WriteFile(file, "text");
-    }
-    FILE_INFO info;
-    EXPECT_EQ(GetFileInfo("bad/\xFF", info), -1);
-    EXPECT_TRUE(info.exists);
-    EXPECT_TRUE(Logged("FSPathMakeRef: -43\n"));
-    EXPECT_EQ(FSRemove("bad", true), -3);
-    EXPECT_EQ(Tree("bad"), "\xFE=text \xFF=text");
-}
-
-// Linux only: the links of a Mac are shorter.
-TEST_F(VolumeTest, RefusesALinkThatMayHaveBeenCut) {
-    ustring text;
-    EXPECT_EQ(FSCreateSymbolicLink(std::string(1024, 'x'), "long"), 0);
-    EXPECT_EQ(FSReadSymbolicLink("long", text), -1);
-}
-
 TEST_F(VolumeTest, FindsAnyLetterCaseWhereAMacDoes) {
     WriteFile("\u00E9", "");
     EXPECT_FALSE(IsFileExist("\u00C9", false)) << "not on a volume of Linux";
@@ -55,13 +35,13 @@ TEST_F(VolumeTest, FindsAnyLetterCaseWhereAMacDoes) {
         GTEST_SKIP() << "this user cannot mount a volume with FUSE";
     }
     // Stored decomposed, asked for composed. Some volumes hold two names that differ in case only.
-    for (const char *file : {"Foo", "twin", "TWIN", "U\u0308ber"}) {
+    for (const char *file : {"twin", "TWIN", "U\u0308ber"}) {
         WriteFile(fs::path("disk") / file, "");
     }
-    for (const char *exact : {"Foo", "twin", "TWIN", "\u00DCber"}) {
+    for (const char *exact : {"twin", "TWIN", "\u00DCber"}) {
         EXPECT_TRUE(IsFileExist(OnVolume(exact), true)) << exact;
     }
-    for (const char *other_case : {"foo", "\u00DCBER"}) {
+    for (const char *other_case : {"Twin", "\u00DCBER"}) {
         EXPECT_TRUE(IsFileExist(OnVolume(other_case), false)) << other_case;
         EXPECT_FALSE(IsFileExist(OnVolume(other_case), true)) << other_case;
     }
