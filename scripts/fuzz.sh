@@ -35,7 +35,7 @@ sandboxed() { # sandboxed TARGET ARGUMENT...
         --size $((128 << 20)) --tmpfs /mnt --dir /mnt/tmp --bind "$WORK/$target" /mnt/work \
         --setenv TMPDIR /mnt/tmp --setenv PATH /none --chdir /mnt/tmp \
         "$ROOT/build-fuzz/tests/fuzz/${target}_fuzzer" -timeout=10 -rss_limit_mb=2048 \
-        -handle_xfsz=0 -artifact_prefix=/mnt/work/ "$@"
+        -artifact_prefix=/mnt/work/ "$@"
 }
 
 fuzz() { # fuzz TARGET: prints a summary; returns 1 when something was found

@@ -10,14 +10,14 @@ TEST_F(LaunchTest, InstallsAndThenLeavesTheClientAlone) {
     ExpectInstalled("121");
     const pid_t first = ClientPid();
     const fs::path opened = "/proc/" + std::to_string(first) + "/fd";
-    const int inherited = 3, pid_file = 1;
+    const int streams = 3, pid_file = 1;
     EXPECT_TRUE(Eventually(
-        [&] { return std::distance(fs::directory_iterator(opened), {}) == inherited + pid_file; }));
+        [&] { return std::distance(fs::directory_iterator(opened), {}) == streams + pid_file; }));
     const fs::path aged = lumaris / "app";  // of an older layout, removed at every start
     WriteFile(aged / "file", "x");
     EXPECT_EQ(0, Launch());
     EXPECT_TRUE(HasLine("): no need to upgrade\n")) << LauncherLog();
-    EXPECT_EQ(first, ClientPid()) << "the client was left running";
+    EXPECT_EQ(first, ClientPid()) << "the client was restarted";
     EXPECT_FALSE(fs::exists(aged));
 }
 

@@ -11,13 +11,13 @@ namespace {
 // the launcher. The package does not fit, so the old client stays.
 TEST_F(LaunchTest, GoesOnWhenWritesFail) {
     Install();
-    WriteFile(lumaris / "log", "");  // so that errors go to standard error
-    const std::string unread = "\"$0\" 2>&1 | :";
+    WriteFile(lumaris / "log", "");                 // so that errors go to standard error
+    const std::string unread = R"("$0" 2>&1 | :)";  // $0 is the launcher
     Finish(Start({"prlimit", "--fsize=4096", "sh", "-c", unread}));  // the status is that of ":"
     ExpectInstalled("120");
 }
 
-TEST_F(LaunchTest, LeavesWithoutAThread) {
+TEST_F(LaunchTest, EndsWithoutAThread) {
     EXPECT_EQ(0, Finish(Start({"strace", "-f", "-o/dev/null", "-etrace=clone3",
                                "-einject=clone3:error=EAGAIN"})));
     EXPECT_TRUE(HasLine("failed to start the worker thread\n")) << LauncherLog() << Err();

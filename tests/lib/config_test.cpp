@@ -9,13 +9,14 @@ using ConfigTest = HomeTest;
 using Pairs = std::map<ustring, ustring>;
 
 TEST_F(ConfigTest, ReadsLines) {
-    const std::string filled(8189, 'x');
+    const std::string filled(8189, 'x');  // with "a=" before it, as long as a line may be
     const struct {
         const char *what;
         std::string text;
         Pairs expected;
     } cases[] = {
-        {"no key at all", "\n \t\v\f\r\n  # comment\n#\nname#x=1\nname", {}},
+        {"no key at all", "\n \t\v\f\r\n  # comment\n#\n", {}},
+        {"a name that '#' or the end cuts off", "name#x=1\nname", {}},
         {"blanks and a note",
          " \tname \t= \tvalue   # note\r\nb=2",
          {{"b", "2"}, {"name", "value"}}},
@@ -40,7 +41,7 @@ TEST_F(ConfigTest, OneMalformedLineEmptiesTheMap) {
     const struct {
         const char *what, *line;
     } rows[] = {
-        {"no =", "name "},
+        {"a name and a blank, no =", "name "},
         {"no value", "name= \t\n"},
         {"two words", "a=two words\n"},
         {"a letter beyond ASCII in the key", "\xC3\xA9=1"},

@@ -27,15 +27,15 @@ TEST_F(FileOpTest, FindsAnySpelling) {
     const struct {
         const char *what;
         ustring path, stored;
-        int type;    // FILE_TYPE_...
+        int type;
         bool exact;  // asked for as it is stored
     } cases[] = {
-        {"respelt", Full("d/\u00E9te\u0301"), Full("d/\u00E9t\u00E9"), 1, true},
-        {"through a link", "link/\u00E9t\u00E9", Full("d/\u00E9t\u00E9"), 1, false},
-        {"a link", Full("link"), Full("link"), 3, true},
-        {"relative", "Kelvin", Full("Kelvin"), 1, false},
-        {"named as if removed", Full("x (deleted)"), Full("x (deleted)"), 1, true},
-        {"missing", "no/\u00E9", "no/\u00E9", 0, false},
+        {"respelt", Full("d/\u00E9te\u0301"), Full("d/\u00E9t\u00E9"), FILE_TYPE_REGULAR, true},
+        {"through a link", "link/\u00E9t\u00E9", Full("d/\u00E9t\u00E9"), FILE_TYPE_REGULAR, false},
+        {"a link", Full("link"), Full("link"), FILE_TYPE_SYMLINK, true},
+        {"relative", "Kelvin", Full("Kelvin"), FILE_TYPE_REGULAR, false},
+        {"named as if removed", Full("x (deleted)"), Full("x (deleted)"), FILE_TYPE_REGULAR, true},
+        {"missing", "no/\u00E9", "no/\u00E9", FILE_TYPE_NONE, false},
     };
     for (const auto &row : cases) {
         SCOPED_TRACE(row.what);
@@ -54,10 +54,11 @@ TEST_F(FileOpTest, FindsAnySpelling) {
 TEST_F(FileOpTest, FindsNothingBeneathAFile) {
     WriteFile("file", "");
     FILE_INFO info;
-    EXPECT_EQ(GetFileInfo("file/x", info), -1);
-    EXPECT_EQ(FSStat("file/x", info, false), 0);
+    info.exists = true;  // left over from another file
+    EXPECT_EQ(GetFileInfo("file/x", info), -1) << "more than missing";
+    EXPECT_EQ(FSStat("file/x", info, false), 0) << "no more than missing";
     EXPECT_FALSE(info.exists);
-    EXPECT_EQ(FSStat("", info, false), -1);
+    EXPECT_EQ(FSStat("", info, false), -1) << "no path";
 }
 
 TEST_F(FileOpTest, Copies) {
@@ -68,7 +69,7 @@ TEST_F(FileOpTest, Copies) {
     EXPECT_EQ(FSCopy("src", "kept", false), 0);
     EXPECT_EQ(FSCopy("src", "\u00E9/f", true), 0) << "and removes the source";
     EXPECT_EQ(FSCopy("src", "x", false), -1) << "the source is missing";
-    EXPECT_EQ(FSCopy(".", "void", true), -1) << "a folder cannot be read";
+    EXPECT_EQ(FSCopy(".", "void", true), -1) << "a folder cannot be read, an empty copy stays";
     EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/f=new kept=new:600 void=");
 }
 
@@ -78,8 +79,8 @@ TEST_F(FileOpTest, Renames) {
     }
     EXPECT_EQ(FSRename("", "x", false), -1);
     EXPECT_EQ(FSRename("none", "x", false), -2);
-    EXPECT_EQ(FSRename("file", "x", true), -2) << "not the exact path";
-    EXPECT_EQ(FSRename("e\u0301", "full", false), -3) << "it is not empty";
+    EXPECT_EQ(FSRename("file", "x", true), -2) << "a relative path is never exact";
+    EXPECT_EQ(FSRename("e\u0301", "full", false), -3) << "the destination is not empty";
     EXPECT_EQ(FSRename("file", std::string(256, 'n'), false), -100);
     EXPECT_EQ(FSRename("full", "to", false), 0);
     EXPECT_EQ(FSRename(Full("\u00E9/f"), "x", true), 0);
@@ -115,15 +116,16 @@ TEST_F(FileOpTest, MakesAllFoldersOfAPath) {
     const ustring blocked("\u00E9/file/x/y");
     char *stop = nullptr;  // points into the path's text
     EXPECT_EQ(FSMKDirP("\u00E9/x/y", nullptr, false, 0775), 0);
-    EXPECT_EQ(FSMKDirP(blocked, &stop, false, 0xFFFF), -1);
-    EXPECT_STREQ(stop, "/y") << "not reached";
-    EXPECT_EQ(FSMKDirP(Full("\u00E9/file/x"), nullptr, true, 0xFFFF), 0) << "in place of a file";
+    EXPECT_EQ(FSMKDirP(blocked, &stop, false, 0xFFFF), -1);  // 0xFFFF: as the umask says
+    EXPECT_STREQ(stop, "/y") << "what was not tried, behind the x that cannot be made";
+    EXPECT_EQ(FSMKDirP("\u00E9/file/x", nullptr, true, 0xFFFF), 0) << "in place of a file";
     EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/file/ e\u0301/file/x/ e\u0301/x/:775 e\u0301/x/y/:775");
 }
 
 TEST_F(FileOpTest, ListsFolders) {
     WriteFile("e\u0301/file", "12345");
     fs::create_symlink("file", "e\u0301/link");
+    EXPECT_EQ(FSUTime("\u00E9/file", 1, 20), 0);
     DIR_HANDLE handle;
     EXPECT_EQ(FSOpenDir("none", 0, handle), -1);
     EXPECT_EQ(FSOpenDir(Full("\u00E9"), DIR_FLAG_STAT, handle), 0);
@@ -132,12 +134,12 @@ TEST_F(FileOpTest, ListsFolders) {
     // An errno from before must not make the end look like an error.
     for (errno = EIO; FSReadDir(handle, entry) == 1; errno = EIO) {
         types[entry.name] = entry.type;
-        EXPECT_TRUE(entry.name != "file" || entry.size == 5);
+        EXPECT_TRUE(entry.name != "file" || (entry.size == 5 && entry.mtime == 20));
     }
     const int folder = FILE_TYPE_DIRECTORY, file = FILE_TYPE_REGULAR, link = FILE_TYPE_SYMLINK;
     EXPECT_EQ(types, (std::map<ustring, int>{
                          {".", folder}, {"..", folder}, {"file", file}, {"link", link}}));
-    EXPECT_EQ(FSReadDir(handle, entry), 0) << "the end is no error";
+    EXPECT_EQ(FSReadDir(handle, entry), 0) << "the end counts as an error";
     FSCloseDir(handle);
 }
 
@@ -149,16 +151,16 @@ TEST_F(FileOpTest, SplitsPaths) {
     EXPECT_FALSE(FSIsParentFolder("/a", "/ab"));
 }
 
-TEST_F(FileOpTest, MakesAndReadsLinks) {
+TEST_F(FileOpTest, MakesReadsAndResolvesLinks) {
     WriteFile("e\u0301/file", "");
     ustring text, real = "\u00E9/link", none = "none";
     EXPECT_EQ(FSCreateSymbolicLink("file", "\u00E9/link"), 0);
-    EXPECT_EQ(FSCreateSymbolicLink("file", "\u00E9/link"), -1);
+    EXPECT_EQ(FSCreateSymbolicLink("file", "\u00E9/link"), -1) << "it is there already";
     EXPECT_EQ(FSReadSymbolicLink("\u00E9/link", text), 0);
     EXPECT_EQ(text, "file");
     EXPECT_EQ(FSReadSymbolicLink("none", text), -1);
     EXPECT_EQ(FSGetRealPath(real), 0);
-    EXPECT_EQ(real, Full("e\u0301/file"));
+    EXPECT_EQ(real, Full("e\u0301/file")) << "not as spelt on the disk";
     EXPECT_EQ(FSGetRealPath(none), -1);
     EXPECT_EQ(none, "none");
 }
@@ -170,7 +172,7 @@ TEST_F(FileOpTest, ChangesALinkAndNotItsTarget) {
     EXPECT_EQ(FSChown("dead", geteuid(), getegid()), 0);
     EXPECT_EQ(GetFileInfo("dead", info), 0);
     EXPECT_EQ(info.mtime, 2);
-    EXPECT_EQ(FSChown("none", 0, 0), -1);
+    EXPECT_EQ(FSChown("none", 0, 0), -1) << "it is missing";
 }
 
 TEST_F(FileOpTest, MakesTemporaryFiles) {
@@ -182,7 +184,7 @@ TEST_F(FileOpTest, MakesTemporaryFiles) {
 }
 
 TEST_F(FileOpTest, OnlyDeniedAccessIsLocked) {
-    WriteFile("file", "");
+    WriteFile("file", "");  // that not even root may run
     EXPECT_TRUE(isFileLocked("file", X_OK));
     EXPECT_FALSE(isFileLocked("none", X_OK));
     EXPECT_FALSE(hasFilePermission("file", X_OK));

@@ -43,8 +43,9 @@ TEST_F(LoggerTest, ThresholdsPerComponent) {
         Logger::Level level;
         bool written;
     } cases[] = {
+        // in this order
         {"a warning by default", "", Logger::LEVEL_WARNING, true},
-        {"names count in their letter case", "Service_debug=7\n", Logger::LEVEL_NOTE, false},
+        {"names in another letter case", "Service_debug=7\n", Logger::LEVEL_NOTE, false},
         {"what the file asks for", "service_debug=7\n", Logger::LEVEL_DEBUG, true},
         {"what the file before asked for stays", "", Logger::LEVEL_DEBUG, true},
         {"no number is level 0", "service_debug=all\n", Logger::LEVEL_ERROR, false},
@@ -67,18 +68,18 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyte) {
     Write(FILLS_THE_LOG);
     EXPECT_EQ(ReadFile(Rotated(0)), "0");
     Write("last\n");
-    EXPECT_EQ(fs::file_size(Rotated(0)), LIMIT + STAMP + 5);
+    EXPECT_EQ(fs::file_size(Rotated(0)), LIMIT + STAMP + strlen("last\n"));
     for (int i = 1; i < 8; ++i) {
         EXPECT_EQ(ReadFile(Rotated(i)), std::to_string(i - 1));
     }
-    EXPECT_FALSE(fs::exists(Rotated(8)));
+    EXPECT_FALSE(fs::exists(Rotated(8))) << "more than nine, with the current one";
     Write("new\n");
-    Write(FILLS_THE_LOG.substr(STAMP + 4));  // full again, to the last byte
-    EXPECT_EQ(fs::file_size(log), LIMIT);
+    Write(FILLS_THE_LOG.substr(STAMP + strlen("new\n")));  // full again, to the last byte
+    EXPECT_EQ(fs::file_size(log), LIMIT) << "the count did not start anew";
 }
 
-TEST_F(LoggerTest, AFailedRotationDropsMessagesUntilReloaded) {
-    fs::remove(log);
+TEST_F(LoggerTest, ReloadingMendsAFailedRotation) {
+    fs::remove(log);  // leaves nothing to rotate
     EXPECT_EQ(Logger::Rotate(), -1);
     Write("dropped\n");
     Logger::ReloadLogFile();

@@ -16,8 +16,8 @@ TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
         gen.m_key[i] = static_cast<unsigned char>("Key"[i % 3]);
     }
     TmpNameGen::rc4_init(gen.m_sbox, gen.m_key);
-    // The published stream for "Key" begins with eb9f77 81b734: the first name. It would go on with
-    // ca72a7; a restart of the indices gives the other two names instead.
+    // The published stream for "Key" begins with eb9f77 81b734. That is the first name, six bits a
+    // letter. It would go on with ca72a7; a restart of the indices gives the other names instead.
     for (const char *name : {"WVZTwrsQ", "lnIM_-bL", "FVonc5Qc"}) {
         EXPECT_STREQ(gen.getTmpName().c_str(), name);
     }

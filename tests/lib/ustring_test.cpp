@@ -148,7 +148,7 @@ std::string FirstDifference(const uint8_t *data, size_t size) try {
         CompareOrder(both, u, s, s.substr(0, n) + x, pos);
         if (!both.difference.empty()) {
             return both.difference + "\nafter " + edit + " in " + Comparison::Shown(before) +
-                   "\nwith " + Comparison::Shown(std::tuple(pos, n, x));
+                   "\nwith position, count, text " + Comparison::Shown(std::tuple(pos, n, x));
         }
         data += 8;
     }
@@ -159,6 +159,7 @@ std::string FirstDifference(const uint8_t *data, size_t size) try {
 
 }  // namespace
 
+// For the fuzzer, which is built from this file, too.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const std::string difference = FirstDifference(data, size);
     if (!difference.empty()) {
@@ -168,7 +169,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     return 0;
 }
 
-TEST(UstringTest, DoesWhatTheModelDoes) {
+TEST(UstringTest, EditsAndSearchesLikeStdStringAndIcu) {
     std::string difference;
     unsigned seed = 0;
     testing::internal::CaptureStderr();
@@ -180,13 +181,13 @@ TEST(UstringTest, DoesWhatTheModelDoes) {
     }
     const std::string said = testing::internal::GetCapturedStderr();
     ASSERT_EQ(difference, "") << "seed " << seed;
-    // Malformed text was among it both ways; 10 is U_INVALID_CHAR_FOUND.
+    // Malformed text was among the input, both ways; 10 is U_INVALID_CHAR_FOUND.
     EXPECT_NE(said.find("Warning: u_strFromUTF8: error code 10 at line "), said.npos);
     EXPECT_NE(said.find("Warning: u_strToUTF8: error code 10 at line "), said.npos);
 }
 
 TEST(UstringTest, FoldsAsciiOnly) {
-    for (int c = 1; c < 256; ++c) {
+    for (int c = 1; c < 256; ++c) {  // the difference of the bytes in the middle is the result
         EXPECT_EQ(tolower(c) - 'm', ustring::compare(std::string{'a', char(c), 'B'}, "AMb", true));
     }
 }

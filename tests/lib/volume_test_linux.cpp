@@ -17,7 +17,7 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     WriteFile("disk/late/file", "4");
     EXPECT_EQ(FSRename(fs::absolute("disk/\u00FC").c_str(), "v/dst", true), 0);
     EXPECT_EQ(FSRename("disk/onto", "v/onto", false), 0);
-    EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0) << "though it stays";
+    EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0) << "a link stays behind";
     EXPECT_EQ(FSRename("disk/src", "v/moved", false), -3) << "the link is left";
     EXPECT_EQ(FSRename("disk/src", "v/moved/file", false), -3) << "onto a file";
     EXPECT_EQ(FSRename("disk/late", "v/late", false), -3) << "full";
@@ -30,11 +30,11 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
 
 TEST_F(VolumeTest, FindsAnyLetterCaseWhereAMacDoes) {
     WriteFile("\u00E9", "");
-    EXPECT_FALSE(IsFileExist("\u00C9", false)) << "not on a volume of Linux";
+    EXPECT_FALSE(IsFileExist("\u00C9", false)) << "found on a volume of Linux";
     if (!MountMacVolume()) {
         GTEST_SKIP() << "this user cannot mount a volume with FUSE";
     }
-    // Stored decomposed, asked for composed. Some volumes hold two names that differ in case only.
+    // Stored decomposed, asked for composed. Of two names that differ in case only, each is found.
     for (const char *file : {"twin", "TWIN", "U\u0308ber"}) {
         WriteFile(fs::path("disk") / file, "");
     }

@@ -20,7 +20,8 @@ make_client() {
         icon_overlay_version=1 > Client.app/Contents/Resources/INFO
 }
 
-# expect STATUS TEXT COMMAND...: it ends so, says one line with the text, and leaves no other files.
+# expect STATUS TEXT COMMAND...: in a shell of its own it ends so, says one
+# line with the text, and leaves no other files.
 expect() {
     status=0 before=$(ls)
     (shift 2 && "$@") > "$work/said" 2>&1 || status=$?
@@ -33,8 +34,9 @@ expect() {
 }
 
 make_client
-"$pack" Client.app first | grep '7 entries, GNU tar format, zstd'
-# Sorted, but for the two that the launcher goes by, which the verifier wants at the end.
+"$pack" Client.app first > "$work/said"
+printf '7 entries, GNU tar format, zstd\nfirst: version 2.5.121\n' | diff - "$work/said"
+# Sorted, but for the executable and INFO, which the verifier wants at the end.
 tar -tf first/package/lumaris.wpk | head -n -2 | sort -c
 
 # The same from another place, with other times and settings.
@@ -52,27 +54,27 @@ expect 1 'lies in the client' pack_into_client
 expect 1 "'out' cannot be written: zstd" pack_on_full_disk
 
 # refused TEXT HARM...: what is done to the client is the reason. Root passes over permissions.
-[ "$(id -u)" != 0 ] || owner='setpriv --bounding-set -dac_override,-dac_read_search'
+[ "$(id -u)" != 0 ] || without_override='setpriv --bounding-set -dac_override,-dac_read_search'
 refused() {
     make_client
     (shift && cd Client.app/Contents && "$@")
     # shellcheck disable=SC2086 # it is no word or more than one
-    expect 1 "$1" ${owner-} "$pack" Client.app out
+    expect 1 "$1" ${without_override-} "$pack" Client.app out
 }
-refused 'no number minor_version' sed -i s/r_version=5/r_version=x/ Resources/INFO
+refused 'no number minor_version' sed -i s/minor_version=5/minor_version=x/ Resources/INFO
 refused 'has a line break' touch "$(printf 'two\nlines')"
 refused 'Cannot open: Permission denied' chmod 0 Info.plist
 refused "Info.plist' is missing" rm Info.plist
 
 # Minutes to read, interrupted once something of it is written.
-interrupt() {
+pack_until_killed() {
     "$pack" big out &
     until ls out.*/out/package/*; do sleep .1; done > /dev/null 2>&1
     kill $! && wait $!
 }
 truncate -s 100G big/file
-expect 1 interrupted interrupt
+expect 1 interrupted pack_until_killed
 
-cd big # a Mac cannot store such holes
-tar -Scf ../holes file Contents/Info.plist Contents/MacOS/lumaris-backup-ui Contents/Resources/INFO
-expect 1 "'file' has holes" "${pack%/*}/lumaris-verify" ../holes
+cd big # a Mac cannot store such holes, so the verifier refuses them, too
+tar -Scf ../sparse.tar file Contents/Info.plist Contents/MacOS/lumaris-backup-ui Contents/Resources/INFO
+expect 1 "'file' has holes" "${pack%/*}/lumaris-verify" ../sparse.tar

@@ -23,9 +23,9 @@ const std::string kClientTree =
 struct Row {
     const char *what;
     Entries more;
-    const char *expected;
-    const char *format = "gnutar";
+    const char *expected;  // behind the tree of the client, or in what is said
     std::string without = "";
+    const char *format = "gnutar";
 };
 
 class VerifyTest : public VolumeTest, public testing::WithParamInterface<bool> {
@@ -56,11 +56,11 @@ protected:
     std::string said;
 };
 
-TEST_P(VerifyTest, AcceptsWhatTheLauncherInstallsAsStored) {
+TEST_P(VerifyTest, AcceptsUnusualPackagesThatAreInstalledAsStored) {
     const Row rows[] = {
-        {"cpio", {}, "", "newc"},
-        {"zip", {}, "", "zip"},
-        {"7-zip, which stores folders last", {{"a/"}, {"a/b", "x"}}, " a/ a/b=x", "7zip"},
+        {"cpio", {}, "", "", "newc"},
+        {"zip", {}, "", "", "zip"},
+        {"7-zip, which stores folders last", {{"a/"}, {"a/b", "x"}}, " a/ a/b=x", "", "7zip"},
         {"needless '/' and '.'", {{"./"}, {"/a/./b//c", "x"}}, " a/ a/b/ a/b/c=x"},
         {"a link within", {{"a/"}, {"a/l", "", AE_IFLNK, "../a"}}, " a/ a/l->../a"},
     };
@@ -74,7 +74,7 @@ TEST_P(VerifyTest, AcceptsWhatTheLauncherInstallsAsStored) {
 
 TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
     const Row rows[] = {
-        {"a format without content", {}, "the format is mtree", "mtree"},
+        {"a format without content", {}, "the format is mtree", "", "mtree"},
 
         {"'..'", {{"a/../x"}}, "has a '..' part"},
         {"no UTF-8", {{"\xff"}}, "'\\xff' is not valid UTF-8"},
@@ -82,7 +82,7 @@ TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
         {"a file of attributes", {{"._a"}}, "is an AppleDouble"},
         {"a file as the bundle", {{"."}}, "takes the place of the bundle"},
         {"a file twice", {{"a", "1"}, {"a", "2"}}, "'a' is there twice"},
-        {"late permissions", {{"a/b"}, {"a/", "", 0700}}, "before its permissions"},
+        {"a folder behind its file", {{"a/b"}, {"a/", "", 0700}}, "before its permissions"},
         {"one name, in case and form", {{"\u00c9"}, {"e\u0301"}}, "is one name with"},
         {"one folder, in case", {{"Lib/a"}, {"lib/b"}}, "'lib' is one name with 'Lib'"},
 
@@ -97,11 +97,11 @@ TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
         {"an absolute link", {{"l", "", AE_IFLNK, "/tmp"}}, "points to an absolute"},
         {"an endless link", {{"l", "", AE_IFLNK, "l"}}, "never arrives"},
 
-        {"no right to run", {{kClientExecutable, "x"}}, "executable", "gnutar", kClientExecutable},
-        {"an empty program", {{kClientExecutable}}, "-ui' is empty", "gnutar", kClientExecutable},
-        {"a word as build", {{kInfo, Info("v121")}}, "no build number", "gnutar", kInfo},
-        {"in small letters", {{"Contents/Resources/info"}}, "INFO' is missing", "gnutar", kInfo},
-        {"INFO not last", {{kInfo, Info("121")}}, "the last files are not", "gnutar", kInfo},
+        {"no right to run", {{kClientExecutable, "x"}}, "executable", kClientExecutable},
+        {"an empty program", {{kClientExecutable}}, "-ui' is empty", kClientExecutable},
+        {"a word as build", {{kInfo, Info("v121")}}, "no build number", kInfo},
+        {"INFO in small letters", {{"Contents/Resources/info"}}, "INFO' is missing", kInfo},
+        {"INFO not last", {{kInfo, Info("121")}}, "the last files are not", kInfo},
     };
     for (const Row &row : rows) {
         Write(row);
@@ -115,11 +115,11 @@ TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
     }
 }
 
-// As a flipped bit can make it: an empty block in place of a file's header.
+// As a flipped bit in compressed data can make it: an empty block in place of a file's header.
 TEST_P(VerifyTest, AnEmptyBlockIsNoEnd) {
     WritePackage(package, kClient);
-    WriteFile(package, ReadFile(package).replace(1024, 512, 512, '\0'));
-    EXPECT_EQ(-1, MacService().PrepareUserEnv());
+    WriteFile(package, ReadFile(package).replace(1024, 512, 512, '\0'));  // the second
+    EXPECT_EQ(-1, MacService().PrepareUserEnv()) << Log();
 }
 
 // In the form that lumaris-pack makes. A few bits of the compression have no meaning.
@@ -134,8 +134,9 @@ TEST_P(VerifyTest, DamageIsRefusedOrHasNoEffect) {
             WriteFile(package, damaged);
             fs::remove_all(app);
             const bool installed = MacService().ExtractPackage() == 0;
-            EXPECT_EQ(installed, IsAccepted()) << place << " of " << whole.size() << ": " << said;
-            EXPECT_TRUE(!installed || Tree(app) == kClientTree) << place;
+            SCOPED_TRACE((damaged == flipped ? "a bit of " : "cut at ") + std::to_string(place));
+            EXPECT_EQ(installed, IsAccepted()) << said;
+            EXPECT_TRUE(!installed || Tree(app) == kClientTree) << Tree(app);
         }
     }
 }

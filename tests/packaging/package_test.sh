@@ -10,10 +10,10 @@ work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-package.XXXXXX")
 # Ends what was started from the work folder, a client without a pid file included.
 trap 'pkill -KILL -f "^$work/" || true; rm -rf "$work"' EXIT
 
-package() { "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/out" 2>&1; }
+make_deb() { "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/out" 2>&1; }
 # Nobody ships the demo client by accident.
-(! package) | tr -s ' \n' ' ' | grep 'configure with -DLUMARIS_PACKAGE=FOLDER'
-LUMARIS_PACKAGE=$build/packaging/bundle/package package
+(! make_deb) | tr -s ' \n' ' ' | grep 'configure with -DLUMARIS_PACKAGE=FOLDER'
+LUMARIS_PACKAGE=$build/packaging/bundle/package make_deb
 [[ $(dpkg-deb -f "$work"/out/*.deb Depends) == *libarchive13*libicu*libqt* ]]
 
 mkdir "$work"/{home,tmp}

@@ -100,11 +100,11 @@ TEST_F(LauncherTest, TheDialogFollowsTheRun) {
 TEST_F(LauncherTest, OnlyTheSystemClosesTheDialog) {
     const Launcher launcher;
     Dialog()->show();
-    EXPECT_EQ(nullptr, Dialog()->findChild<QPushButton *>()) << "there is nothing to cancel";
+    EXPECT_EQ(nullptr, Dialog()->findChild<QPushButton *>()) << "a button to cancel";
     QTest::keyClick(Dialog(), Qt::Key_Escape);
     EXPECT_FALSE(Dialog()->close());
     EXPECT_TRUE(Dialog()->isVisible());
-    QEvent by_the_system(QEvent::Close);
+    QEvent by_the_system(QEvent::Close);  // as at log-out
     QCoreApplication::sendEvent(qApp, &by_the_system);
     EXPECT_FALSE(Dialog()->isVisible());
 }
@@ -113,7 +113,7 @@ TEST_F(LauncherTest, IsReadableInADarkTheme) {
     QApplication::setPalette(QColor(50, 50, 50));  // the other colours follow from the window's
     const Launcher launcher;
     Dialog()->show();
-    // With what lies below the label's text.
+    // From the dialog, so that the ground behind the text is in it.
     const QImage shown = Dialog()->grab(Dialog()->findChild<QLabel *>()->geometry()).toImage();
     QApplication::setPalette(QPalette());
     std::set<int> grays;  // from 0 for black to 255 for white

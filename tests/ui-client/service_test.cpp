@@ -13,7 +13,7 @@
 
 namespace {
 
-std::string desktop_calls;
+std::string desktop_calls;  // noted by the doubles at the end
 bool desktop_fails;
 
 class ServiceTest : public HomeTest {
@@ -81,7 +81,7 @@ TEST_F(ServiceTest, StopsTheClientAndKillsOneThatStays) {
         auto end = std::async(std::launch::async, Finish, client);
         const time_t start = time(nullptr);
         Upgrade(client);
-        EXPECT_EQ(stays, time(nullptr) - start > 3) << "it has five seconds";
+        EXPECT_EQ(stays, time(nullptr) - start > 3) << "killed too soon or too late";
         EXPECT_EQ(1000 + (stays ? SIGKILL : SIGTERM), end.get());
     }
 }
@@ -95,14 +95,7 @@ TEST_F(ServiceTest, SignalsNobodyButTheClient) {
         Upgrade(-own);              // its group
         Upgrade((1L << 32) + own);  // the launcher itself, once cut to 32 bits
     });
-    EXPECT_EQ(0, Finish(launcher)) << "it was signalled";
-}
-
-TEST_F(ServiceTest, AStaleRecordGoesBeforeANewUpgrade) {
-    WriteFile(app, "old");
-    fs::create_symlink("Lumaris.app_tmp1", app.string() + "_upgraded");
-    EXPECT_EQ(-1, service.PrepareUserEnv()) << "there is no package";
-    EXPECT_EQ("Lumaris.app=old", Tree(lumaris)) << "it would remove the backup of the next upgrade";
+    EXPECT_EQ(0, Finish(launcher)) << "it was signalled: " << Log();
 }
 
 TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
@@ -110,7 +103,8 @@ TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
         desktop_fails = fails;
         desktop_calls = "";
         service.PostUpgrade();
-        EXPECT_EQ("unregister " + app.string() + "\nopen " + app.string() + "\n", desktop_calls);
+        EXPECT_EQ("unregister " + app.string() + "\nopen " + app.string() + "\n", desktop_calls)
+            << fails;
         EXPECT_EQ(fails, Logged("): Failed to launch Lumaris UI\n")) << Log();
     }
 }
@@ -141,21 +135,28 @@ TEST_F(ServiceTest, RecoversByTheRecord) {
     }
 }
 
+TEST_F(ServiceTest, AStaleRecordGoesBeforeANewUpgrade) {
+    WriteFile(app, "old");
+    fs::create_symlink("Lumaris.app_tmp1", app.string() + "_upgraded");
+    EXPECT_EQ(-1, service.PrepareUserEnv()) << "there is no package";
+    EXPECT_EQ("Lumaris.app=old", Tree(lumaris)) << "the record would end that upgrade's backup";
+}
+
 TEST_F(ServiceTest, GuessesNothingWithoutARecord) {
     WriteFile(app, "part");
     WriteFile(app.string() + "_tmp", "old");
-    fs::create_directory(app.string() + "_upgrade");
+    fs::create_directory(app.string() + "_upgrade");  // a record would be a link
     service.RecoverUserEnv();
     EXPECT_EQ("Lumaris.app=part Lumaris.app_tmp=old Lumaris.app_upgrade/", Tree(lumaris));
 }
 
-// A name that is not UTF-8 can be extracted, and not be removed.
+// A name that is not UTF-8 can be extracted, and not be removed. The entry behind it is refused.
 TEST_F(ServiceTest, PutsTheOldBundleBackPastWhatCannotBeRemoved) {
     WriteFile(app, "old");
     WritePackage(resources / kPackageFile, {{"bad\xff"}, {"x/../../y"}});
     EXPECT_EQ(-1, service.PrepareUserEnv());
     EXPECT_EQ("old", ReadFile(app)) << Log();
-    EXPECT_TRUE(fs::exists(app.string() + "_tmp/bad\xff")) << "the next upgrade removes it there";
+    EXPECT_TRUE(fs::exists(app.string() + "_tmp/bad\xff")) << "not set aside";
 }
 
 TEST_F(ServiceTest, CopiesFilesAndTrees) {
@@ -164,7 +165,7 @@ TEST_F(ServiceTest, CopiesFilesAndTrees) {
     EXPECT_EQ(0, service.FSCopyPath("tree/sub/file", "copy/single"));
     EXPECT_EQ("single=content sub/ sub/file=content", Tree("copy"));
     EXPECT_EQ(-1, service.FSCopyPath("tree/none", "copy"));
-    EXPECT_EQ(-1, service.FSCopyPath("tree", "copy/single"));
+    EXPECT_EQ(-1, service.FSCopyPath("tree", "copy/single")) << "a folder onto a file";
 }
 
 TEST_F(ServiceTest, TheExtractorReportsEachEntry) {
