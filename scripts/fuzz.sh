@@ -12,7 +12,7 @@ if [[ "${1:-}" =~ ^[0-9]+$ ]]; then
     shift
 fi
 targets=("$@")
-[ $# -gt 0 ] || targets=(extractor ustring info)
+[ $# -gt 0 ] || targets=(extractor info)
 
 install_packages "${PACKAGES[@]}" clang libclang-rt-dev llvm bubblewrap
 build fuzz

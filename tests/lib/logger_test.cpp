@@ -78,6 +78,13 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyte) {
     EXPECT_EQ(fs::file_size(log), LIMIT) << "the count did not start anew";
 }
 
+TEST_F(LoggerTest, ReopeningLeavesNoDescriptorOpen) {
+    const int lowest = fileno(Logger::log_fp);
+    EXPECT_EQ(Logger::Rotate(), 0);
+    Logger::ReloadLogFile();
+    EXPECT_EQ(fileno(Logger::log_fp), lowest);
+}
+
 TEST_F(LoggerTest, ReloadingMendsAFailedRotation) {
     fs::remove(log);  // leaves nothing to rotate
     EXPECT_EQ(Logger::Rotate(), -1);
