@@ -10,6 +10,7 @@ TEST_F(LaunchTest, InstallsAndThenLeavesTheClientAlone) {
     ExpectInstalled("121");
     const pid_t first = ClientPid();
     const fs::path opened = "/proc/" + std::to_string(first) + "/fd";
+    // It inherits none of the launcher's descriptors, and keeps its pid file open.
     const int streams = 3, pid_file = 1;
     EXPECT_TRUE(Eventually(
         [&] { return std::distance(fs::directory_iterator(opened), {}) == streams + pid_file; }));
@@ -21,7 +22,7 @@ TEST_F(LaunchTest, InstallsAndThenLeavesTheClientAlone) {
     EXPECT_FALSE(fs::exists(aged));
 }
 
-TEST_F(LaunchTest, OthersCannotWriteInTheUsersFolder) {
+TEST_F(LaunchTest, OthersCannotWriteInTheClientsFolder) {
     umask(0);
     EXPECT_EQ(0, Launch());
     EXPECT_EQ(fs::perms(0755), fs::status(lumaris).permissions());
@@ -41,7 +42,7 @@ TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
     const auto pipe = [](const fs::path &path) { EXPECT_EQ(0, mkfifo(path.c_str(), 0600)); };
     const auto endless = [](const fs::path &path) { fs::create_symlink("/dev/zero", path); };
     const auto huge = [](const fs::path &path) {
-        WriteFile(path, Info("121"));
+        WriteFile(path, Info("121"));  // the build that is shipped
         fs::resize_file(path, 800 << 20);
     };
     const struct {
@@ -52,7 +53,7 @@ TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
         {"a pipe as pid file", pid, pipe},      {"an endless pid file", pid, endless},
         {"a pipe as INFO", installed, pipe},    {"an endless INFO", installed, endless},
         {"an INFO of 800 MB", installed, huge}, {"a pipe as log", log, pipe},
-        {"a pipe as thresholds", levels, pipe},
+        {"a pipe as levels", levels, pipe},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
@@ -60,7 +61,7 @@ TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
         fs::create_directory(lumaris / "log");
         fs::remove(row.path);
         row.make(row.path);
-        EXPECT_EQ(0, Finish(Start({"timeout", "10"})));
+        EXPECT_EQ(0, Finish(Start({"timeout", "10"})));  // 124 when it is held up
         EXPECT_FALSE(fs::exists(app / "old file")) << "not upgraded";
         StopClient();
     }

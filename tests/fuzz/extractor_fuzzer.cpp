@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Bytes as a package: counted and extracted into a fresh folder.
+// Bytes as a package: counted and extracted into a fresh folder. A sanitizer or an
+// assertion ends the run.
 
 #undef NDEBUG  // an assertion ends the run, so that the input is kept as a finding
 

@@ -51,25 +51,25 @@ TEST_F(FileOpTest, FindsAnySpelling) {
     }
 }
 
-TEST_F(FileOpTest, FindsNothingBeneathAFile) {
+TEST_F(FileOpTest, BeneathAFileIsAnErrorOrMissing) {
     WriteFile("file", "");
     FILE_INFO info;
     info.exists = true;  // left over from another file
-    EXPECT_EQ(GetFileInfo("file/x", info), -1) << "more than missing";
-    EXPECT_EQ(FSStat("file/x", info, false), 0) << "no more than missing";
+    EXPECT_EQ(GetFileInfo("file/x", info), -1) << "ENOTDIR is an error here";
+    EXPECT_EQ(FSStat("file/x", info, false), 0) << "and only missing here";
     EXPECT_FALSE(info.exists);
 }
 
 TEST_F(FileOpTest, Copies) {
     WriteFile("src", "new");
-    WriteFile("kept", "longer");
+    WriteFile("private", "longer");
     WriteFile("e\u0301/f", "old");
-    fs::permissions("kept", fs::perms(0600));
-    EXPECT_EQ(FSCopy("src", "kept", false), 0);
+    fs::permissions("private", fs::perms(0600));
+    EXPECT_EQ(FSCopy("src", "private", false), 0);
     EXPECT_EQ(FSCopy("src", "\u00E9/f", true), 0) << "and removes the source";
     EXPECT_EQ(FSCopy("src", "x", false), -1) << "the source is missing";
     EXPECT_EQ(FSCopy(".", "void", true), -1) << "a folder cannot be read, an empty copy stays";
-    EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/f=new kept=new:600 void=");
+    EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/f=new private=new:600 void=");
 }
 
 TEST_F(FileOpTest, Renames) {
@@ -95,7 +95,7 @@ TEST_F(FileOpTest, Removes) {
     EXPECT_EQ(FSRemove("\u00FC", true), 0) << "it is gone already";
     EXPECT_EQ(FSRemove("", true), -1);
     EXPECT_EQ(FSRemove("kept/f/x", true), -1) << "beneath a file";
-    EXPECT_EQ(Tree("."), "kept/ kept/f=") << "the link was followed";
+    EXPECT_EQ(Tree("."), "kept/ kept/f=") << "or the link was followed";
 }
 
 TEST_F(FileOpTest, MakesFolders) {
@@ -182,7 +182,7 @@ TEST_F(FileOpTest, MakesTemporaryFiles) {
     EXPECT_EQ(Tree("."), std::string("e\u0301/ e\u0301/") + FSBaseName(file).c_str() + "=");
 }
 
-TEST_F(FileOpTest, OnlyDeniedAccessIsLocked) {
+TEST_F(FileOpTest, LockedMeansAccessDenied) {
     WriteFile("file", "");  // that not even root may run
     EXPECT_TRUE(isFileLocked("file", X_OK));
     EXPECT_FALSE(isFileLocked("none", X_OK));

@@ -39,40 +39,42 @@ public:
     std::string difference;
 };
 
-void CompareForms(Comparison &both, const ustring &u, const std::string &s) {
-    both.Same("c_str", std::string(u.c_str()), s);
-    both.Same("length", u.length(), s.size());
+void CompareForms(Comparison &check, const ustring &u, const std::string &s) {
+    check.Same("c_str", std::string(u.c_str()), s);
+    check.Same("length", u.length(), s.size());
     const auto *const units = reinterpret_cast<const char16_t *>(u.c_str_utf16());
-    both.Same("c_str_utf16", std::u16string(units), Wide(s));
-    both.Same("is_valid", ustring::is_valid(u), Narrow(Wide(s)) == s);
+    check.Same("c_str_utf16", std::u16string(units), Wide(s));
+    check.Same("is_valid", ustring::is_valid(u), Narrow(Wide(s)) == s);
     UErrorCode status = U_ZERO_ERROR;
     const auto normal = [&](const icu::Normalizer2 *form) {
         std::string text;
         return form->normalize(Wide(s).c_str(), status).toUTF8String(text);
     };
-    both.Same("NFC", u.normalize(ustring::NFC), normal(icu::Normalizer2::getNFCInstance(status)));
-    both.Same("NFD", u.normalize(ustring::NFD), normal(icu::Normalizer2::getNFDInstance(status)));
+    check.Same("NFC", u.normalize(ustring::NFC), normal(icu::Normalizer2::getNFCInstance(status)));
+    check.Same("NFD", u.normalize(ustring::NFD), normal(icu::Normalizer2::getNFDInstance(status)));
 }
 
 /// A `ustring` finds nothing, not even an empty text, at or behind its end.
-void CompareSearches(Comparison &both, const ustring &u, const std::string &s,
+void CompareSearches(Comparison &check, const ustring &u, const std::string &s,
                      const ustring::bytes &x, const std::string &plain, unsigned long pos) {
     const unsigned long last = std::min(pos, s.size() - 1);
-    both.Same("find", u.find(x, pos), pos < s.size() ? s.find(plain, pos) : s.npos);
-    both.Same("rfind", u.rfind(x, pos), s.empty() ? s.npos : s.rfind(plain, last));
-    both.Same("find_first_of", u.find_first_of(x, pos), s.find_first_of(plain, pos));
-    both.Same("find_first_not_of", u.find_first_not_of(x, pos), s.find_first_not_of(plain, pos));
-    both.Same("find_last_of", u.find_last_of(x, pos), s.find_last_of(plain, pos));
-    both.Same("find_last_not_of", u.find_last_not_of(x, pos), s.find_last_not_of(plain, pos));
+    check.Same("find", u.find(x, pos), pos < s.size() ? s.find(plain, pos) : s.npos);
+    check.Same("rfind", u.rfind(x, pos), s.empty() ? s.npos : s.rfind(plain, last));
+    check.Same("find_first_of", u.find_first_of(x, pos), s.find_first_of(plain, pos));
+    check.Same("find_first_not_of", u.find_first_not_of(x, pos), s.find_first_not_of(plain, pos));
+    check.Same("find_last_of", u.find_last_of(x, pos), s.find_last_of(plain, pos));
+    check.Same("find_last_not_of", u.find_last_not_of(x, pos), s.find_last_not_of(plain, pos));
 }
 
-void CompareOrder(Comparison &both, const ustring &u, const std::string &s,
+void CompareOrder(Comparison &check, const ustring &u, const std::string &s,
                   const std::string &other, unsigned long n) {
     const ustring x(other);
-    const int result = u.compare(x, n), order = s.compare(0, n, other, 0, n);
-    both.Same("compare", result < 0 ? -1 : result > 0, order < 0 ? -1 : order > 0);
-    both.Same("< <= == != >= >", std::tuple((u < x), u <= x, u == x, u != x, u >= x, (u > x)),
-              std::tuple((s < other), s <= other, s == other, s != other, s >= other, (s > other)));
+    const int result = u.compare(x, n), expected = s.compare(0, n, other, 0, n);
+    check.Same("compare", result < 0 ? -1 : result > 0, expected < 0 ? -1 : expected > 0);
+    const auto orders = [](const auto &a, const auto &b) {
+        return std::tuple((a < b), a <= b, a == b, a != b, a >= b, (a > b));
+    };
+    check.Same("< <= == != >= >", orders(u, x), orders(s, other));
 }
 
 /// Edits both alike, with the text `x`, from `at` in the text that is there, and with `n` of it.
@@ -134,18 +136,18 @@ std::string FirstDifference(unsigned seed) try {
         for (unsigned long i = draw(6); i > 0; --i) {
             x += pieces[draw(std::size(pieces))];
         }
-        const unsigned long pos = draw(32) - 1, n = draw(32) - 1;  // npos among them
+        const unsigned long pos = draw(32) - 1, n = draw(32) - 1;  // 0 - 1 is npos
         const std::string before = s;
         const char *const edit = Edit(random(), u, s, x, std::min(pos, s.size()), n);
         // Half the time a copy, so that an edit also meets a text without its UTF-16 form.
         const ustring copy(u);
-        Comparison both;
-        CompareForms(both, pos % 2 == 0 ? u : copy, s);
-        CompareSearches(both, u, s, x.c_str(), x, pos);
-        CompareSearches(both, u, s, 'B', "B", pos);
-        CompareOrder(both, u, s, s.substr(0, n) + x, pos);
-        if (!both.difference.empty()) {
-            return both.difference + "\nafter " + edit + " in " + Comparison::Shown(before) +
+        Comparison check;
+        CompareForms(check, pos % 2 == 0 ? u : copy, s);
+        CompareSearches(check, u, s, x.c_str(), x, pos);
+        CompareSearches(check, u, s, 'B', "B", pos);
+        CompareOrder(check, u, s, s.substr(0, n) + x, pos);
+        if (!check.difference.empty()) {
+            return check.difference + "\nafter " + edit + " in " + Comparison::Shown(before) +
                    "\nwith position, count, text " + Comparison::Shown(std::tuple(pos, n, x));
         }
     }
@@ -161,11 +163,11 @@ TEST(UstringTest, EditsAndSearchesLikeStdStringAndIcu) {
     while (difference.empty() && seed < 3000) {
         difference = FirstDifference(++seed);
     }
-    const std::string said = testing::internal::GetCapturedStderr();
+    const std::string warnings = testing::internal::GetCapturedStderr();
     ASSERT_EQ(difference, "") << "seed " << seed;
     // Malformed text was among the input, both ways; 10 is U_INVALID_CHAR_FOUND.
-    EXPECT_NE(said.find("Warning: u_strFromUTF8: error code 10 at line "), said.npos);
-    EXPECT_NE(said.find("Warning: u_strToUTF8: error code 10 at line "), said.npos);
+    EXPECT_NE(warnings.find("Warning: u_strFromUTF8: error code 10 at line "), warnings.npos);
+    EXPECT_NE(warnings.find("Warning: u_strToUTF8: error code 10 at line "), warnings.npos);
 }
 
 TEST(UstringTest, FoldsAsciiOnly) {

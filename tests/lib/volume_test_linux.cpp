@@ -14,18 +14,19 @@ TEST_F(VolumeTest, MovesToAnotherVolume) {
     WriteFile("v/onto/e\u0301/u\u0308", "old");  // the same file, spelt otherwise
     WriteFile("disk/src/file", "3");
     fs::create_symlink("file", "disk/src/link");
-    WriteFile("disk/late/file", "4");
+    WriteFile("disk/fourth/file", "4");
+    // What becomes dst, onto and moved takes the three blocks.
     EXPECT_EQ(FSRename(fs::absolute("disk/\u00FC").c_str(), "v/dst", true), 0);
     EXPECT_EQ(FSRename("disk/onto", "v/onto", false), 0);
-    EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0) << "a link stays behind";
-    EXPECT_EQ(FSRename("disk/src", "v/moved", false), -3) << "the link is left";
+    EXPECT_EQ(FSRename("disk/src/link", "v/link", false), 0) << "a link stays, which is no failure";
+    EXPECT_EQ(FSRename("disk/src", "v/moved", false), -3) << "its link is left, so it stays";
     EXPECT_EQ(FSRename("disk/src", "v/moved/file", false), -3) << "onto a file";
-    EXPECT_EQ(FSRename("disk/late", "v/late", false), -3) << "full";
-    EXPECT_EQ(FSCopy("disk/late/file", "v/part", true), -2) << "full";
+    EXPECT_EQ(FSRename("disk/fourth", "v/fourth", false), -3) << "full";
+    EXPECT_EQ(FSCopy("disk/fourth/file", "v/part", true), -2) << "full";
     EXPECT_EQ(Tree("v"),
-              "dst/ dst/sub/ dst/sub/e\u0301=1 late/ late/file= moved/ moved/file=3 onto/ "
+              "dst/ dst/sub/ dst/sub/e\u0301=1 fourth/ fourth/file= moved/ moved/file=3 onto/ "
               "onto/e\u0301/ onto/e\u0301/u\u0308=new part=");
-    EXPECT_EQ(Tree("disk"), "late/ late/file=4 src/ src/link->file");
+    EXPECT_EQ(Tree("disk"), "fourth/ fourth/file=4 src/ src/link->file");
 }
 
 TEST_F(VolumeTest, FindsAnyLetterCaseWhereAMacDoes) {

@@ -40,7 +40,7 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
     }
 }
 
-TEST(StrTable, NumbersAndKeys) {
+TEST(StrTable, FindsIdsByKeyAndTextsById) {
     StrTable::InitStrTable();
     const int last = 259;
     EXPECT_EQ(0, StrTable::LookupStrID(QStringLiteral("TRAY_help"))) << "in any letter case";

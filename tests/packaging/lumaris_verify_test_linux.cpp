@@ -115,14 +115,14 @@ TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
     }
 }
 
-// As a flipped bit in compressed data can make it: an empty block in place of a file's header.
-TEST_P(VerifyTest, AnEmptyBlockIsNoEnd) {
+// To tar, an empty block is the end. A flipped bit in compressed data can make one of a header.
+TEST_P(VerifyTest, AZeroedHeaderIsNotTheEndOfThePackage) {
     WritePackage(package, kClient);
-    WriteFile(package, ReadFile(package).replace(1024, 512, 512, '\0'));  // the second
+    WriteFile(package, ReadFile(package).replace(1024, 512, 512, '\0'));  // the second file's
     EXPECT_EQ(-1, MacService().PrepareUserEnv()) << Log();
 }
 
-// In the form that lumaris-pack makes. A few bits of the compression have no meaning.
+// In zstd with a checksum, as lumaris-pack makes it. A few bits of the compression have no meaning.
 TEST_P(VerifyTest, DamageIsRefusedOrHasNoEffect) {
     WritePackage(root / "tar", kClient);
     ASSERT_EQ(0, std::system(("zstd -q -9 --check <tar >'" + package + "'").c_str()));

@@ -11,7 +11,7 @@ work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-package.XXXXXX")
 trap 'pkill -KILL -f "^$work/" || true; rm -rf "$work"' EXIT
 
 make_deb() { "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/out" 2>&1; }
-# Nobody ships the demo client by accident.
+# Nobody ships the demo client by accident: it has to be named, here by the environment.
 (! make_deb) | tr -s ' \n' ' ' | grep 'configure with -DLUMARIS_PACKAGE=FOLDER'
 LUMARIS_PACKAGE=$build/packaging/bundle/package make_deb
 [[ $(dpkg-deb -f "$work"/out/*.deb Depends) == *libarchive13*libicu*libqt* ]]

@@ -104,7 +104,7 @@ TEST_F(LauncherTest, OnlyTheSystemClosesTheDialog) {
     QTest::keyClick(Dialog(), Qt::Key_Escape);
     EXPECT_FALSE(Dialog()->close());
     EXPECT_TRUE(Dialog()->isVisible());
-    QEvent by_the_system(QEvent::Close);  // as at log-out
+    QEvent by_the_system(QEvent::Close);  // as macOS sends at log-out
     QCoreApplication::sendEvent(qApp, &by_the_system);
     EXPECT_FALSE(Dialog()->isVisible());
 }

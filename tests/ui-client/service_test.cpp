@@ -31,15 +31,16 @@ protected:
     MacService service;
 };
 
-TEST_F(ServiceTest, ReadsVersionsWithoutRebuildingObjects) {
-    setenv("TMPDIR", "/none", 1);  // even where no temporary file can be made
+TEST_F(ServiceTest, ReadsVersionsAsPlainText) {
+    // A file with "@" is read by way of a temporary copy, which can be made elsewhere, too.
+    setenv("TMPDIR", "/none", 1);
     const struct {
         const char *keys, *version;
     } rows[] = {
         {"[Version]\nmajor_version=2\nminor_version=5\nbuild_version=121\nicon_overlay_version=7\n",
          "(2, 5, 121, 7)\n"},
         {"build_version=1\n[Other]\nminor_version=2\n", "(, , , )\n"},
-        // The settings reader would make an object of it, and end the program.
+        // QSettings would take it for a list of two thousand million texts, and end the program.
         {"[Version]\nminor_version=@Variant(\\0\\0\\0\\xByteA)\n", "(, @Variant("},
     };
     for (const auto &row : rows) {
@@ -99,7 +100,7 @@ TEST_F(ServiceTest, SignalsNobodyButTheClient) {
 }
 
 TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
-    for (const bool fails : {false, true}) {
+    for (const bool fails : {false, true}) {  // in this order
         desktop_fails = fails;
         desktop_calls = "";
         service.PostUpgrade();
@@ -109,10 +110,12 @@ TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
     }
 }
 
+// A file stands for a bundle here. The record is a link to the backup's name, from the start of an
+// upgrade to its end.
 TEST_F(ServiceTest, RecoversByTheRecord) {
     const char *const tmp = "Lumaris.app_tmp";
     const struct {
-        const char *what;
+        const char *what;                          // when the launcher ended
         std::map<std::string, std::string> files;  // by suffix; "1" is half of a bundle
         const char *record, *target;               // the link beside them
         const char *recovered;                     // all of it afterwards
@@ -142,7 +145,7 @@ TEST_F(ServiceTest, AStaleRecordGoesBeforeANewUpgrade) {
     EXPECT_EQ("Lumaris.app=old", Tree(lumaris)) << "the record would end that upgrade's backup";
 }
 
-TEST_F(ServiceTest, GuessesNothingWithoutARecord) {
+TEST_F(ServiceTest, RecoversNothingUnlessTheRecordIsALink) {
     WriteFile(app, "part");
     WriteFile(app.string() + "_tmp", "old");
     fs::create_directory(app.string() + "_upgrade");  // a record would be a link
@@ -151,12 +154,12 @@ TEST_F(ServiceTest, GuessesNothingWithoutARecord) {
 }
 
 // A name that is not UTF-8 can be extracted, and not be removed. The entry behind it is refused.
-TEST_F(ServiceTest, PutsTheOldBundleBackPastWhatCannotBeRemoved) {
+TEST_F(ServiceTest, PutsTheOldBundleBackWhenTheNewOneCannotBeRemoved) {
     WriteFile(app, "old");
     WritePackage(resources / kPackageFile, {{"bad\xff"}, {"x/../../y"}});
     EXPECT_EQ(-1, service.PrepareUserEnv());
     EXPECT_EQ("old", ReadFile(app)) << Log();
-    EXPECT_TRUE(fs::exists(app.string() + "_tmp/bad\xff")) << "not set aside";
+    EXPECT_TRUE(fs::exists(app.string() + "_tmp/bad\xff")) << "its remains are not set aside";
 }
 
 TEST_F(ServiceTest, CopiesFilesAndTrees) {
