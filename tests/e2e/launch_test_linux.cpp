@@ -33,7 +33,7 @@ TEST_F(LaunchTest, WithoutALogFolderErrorsGoToStandardError) {
     EXPECT_EQ(0, Launch());
     EXPECT_EQ("a file where the folder should be", ReadFile(lumaris));
     EXPECT_TRUE(Said("): Failed to launch Lumaris UI\n")) << Err();
-    EXPECT_FALSE(Said("[DEBUG]")) << Err();
+    EXPECT_FALSE(Said("[DEBUG]")) << "for all its level 7: " << Err();
 }
 
 TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
@@ -63,7 +63,7 @@ TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
         row.make(row.path);
         EXPECT_EQ(0, Finish(Start({"timeout", "10"})));  // 124 when it is held up
         EXPECT_FALSE(fs::exists(app / "old file")) << "not upgraded";
-        StopClient();
+        EndAll();
     }
 }
 

@@ -62,11 +62,11 @@ TEST_F(FileOpTest, BeneathAFileIsAnErrorOrMissing) {
 
 TEST_F(FileOpTest, Copies) {
     WriteFile("src", "new");
-    WriteFile("private", "longer");
+    WriteFile("private", "longer than new");
     WriteFile("e\u0301/f", "old");
     fs::permissions("private", fs::perms(0600));
     EXPECT_EQ(FSCopy("src", "private", false), 0);
-    EXPECT_EQ(FSCopy("src", "\u00E9/f", true), 0) << "and removes the source";
+    EXPECT_EQ(FSCopy("src", "\u00E9/f", true), 0) << "and its source goes";
     EXPECT_EQ(FSCopy("src", "x", false), -1) << "the source is missing";
     EXPECT_EQ(FSCopy(".", "void", true), -1) << "a folder cannot be read, an empty copy stays";
     EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/f=new private=new:600 void=");
@@ -95,13 +95,13 @@ TEST_F(FileOpTest, Removes) {
     EXPECT_EQ(FSRemove("\u00FC", true), 0) << "it is gone already";
     EXPECT_EQ(FSRemove("", true), -1);
     EXPECT_EQ(FSRemove("kept/f/x", true), -1) << "beneath a file";
-    EXPECT_EQ(Tree("."), "kept/ kept/f=") << "or the link was followed";
+    EXPECT_EQ(Tree("."), "kept/ kept/f=") << "a link and not its target";
 }
 
 TEST_F(FileOpTest, MakesFolders) {
     WriteFile("e\u0301/file", "");
     EXPECT_EQ(FSMKDir("", true), -1);
-    EXPECT_EQ(FSMKDir("\u00E9/file", true), -1);
+    EXPECT_EQ(FSMKDir("\u00E9/file", true), -1) << "a file, in another spelling";
     EXPECT_EQ(FSMKDir("a/b", false), -2) << "its parent is missing";
     EXPECT_EQ(FSMKDir("a/b/", true), 0);
     EXPECT_EQ(FSMKDir("a/b", false), 0) << "it is there";
@@ -133,12 +133,12 @@ TEST_F(FileOpTest, ListsFolders) {
     // An errno from before must not make the end look like an error.
     for (errno = EIO; FSReadDir(handle, entry) == 1; errno = EIO) {
         types[entry.name] = entry.type;
-        EXPECT_TRUE(entry.name != "file" || (entry.size == 5 && entry.mtime == 20));
+        EXPECT_TRUE(entry.name != "file" || (entry.size == 5 && entry.mtime == 20)) << entry.size;
     }
     const int folder = FILE_TYPE_DIRECTORY, file = FILE_TYPE_REGULAR, link = FILE_TYPE_SYMLINK;
     EXPECT_EQ(types, (std::map<ustring, int>{
                          {".", folder}, {"..", folder}, {"file", file}, {"link", link}}));
-    EXPECT_EQ(FSReadDir(handle, entry), 0) << "the end counts as an error";
+    EXPECT_EQ(FSReadDir(handle, entry), 0) << "at the end";
     FSCloseDir(handle);
 }
 
@@ -159,7 +159,7 @@ TEST_F(FileOpTest, MakesReadsAndResolvesLinks) {
     EXPECT_EQ(text, "file");
     EXPECT_EQ(FSReadSymbolicLink("none", text), -1);
     EXPECT_EQ(FSGetRealPath(real), 0);
-    EXPECT_EQ(real, Full("e\u0301/file")) << "not as spelt on the disk";
+    EXPECT_EQ(real, Full("e\u0301/file")) << "as spelt on the disk";
     EXPECT_EQ(FSGetRealPath(none), -1);
     EXPECT_EQ(none, "none");
 }

@@ -17,7 +17,8 @@ TEST(TmpNameGen, FollowsRc4WithIndicesRestartedPerName) {
     }
     TmpNameGen::rc4_init(gen.m_sbox, gen.m_key);
     // The published stream for "Key" begins with eb9f77 81b734. That is the first name, six bits a
-    // letter. It would go on with ca72a7; a restart of the indices gives the other names instead.
+    // letter of 0-9a-zA-Z-_. It would go on with ca72a7; the other names are what RC4 gives when
+    // its indices, and not its state, start anew for each.
     for (const char *name : {"WVZTwrsQ", "lnIM_-bL", "FVonc5Qc"}) {
         EXPECT_STREQ(gen.getTmpName().c_str(), name);
     }

@@ -51,6 +51,7 @@ TEST(StrTable, FindsIdsByKeyAndTextsById) {
 }
 
 TEST(TarnLocale, LanguageForLocale) {
+    // The two Chinese scripts, and English for a language that there is not.
     const char *const rows[][2] = {
         {"zh_hk", "cht"}, {"zh_mo", "cht"}, {"zh_sg", "chs"}, {"es_419", "esn"}, {"pt", "ptg"},
         {"no", "nor"},    {"nn_no", "nor"}, {"fi_fi", "enu"}, {"", "enu"},

@@ -9,7 +9,7 @@ work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-pack-test.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/here" && cd "$work/here"
 
-# Makes Client.app anew, with a name that tar could take for an option.
+# Makes Client.app anew, with a folder -C that tar could take for an option.
 make_client() {
     rm -rf Client.app
     mkdir -p Client.app/Contents/MacOS Client.app/Contents/Resources Client.app/-C
@@ -20,8 +20,8 @@ make_client() {
         icon_overlay_version=1 > Client.app/Contents/Resources/INFO
 }
 
-# expect STATUS TEXT COMMAND...: in a shell of its own it ends so, says one
-# line with the text, and leaves no other files.
+# expect STATUS TEXT COMMAND...: the command, in a subshell, exits with the status, prints one line
+# that holds the text, and leaves no new file.
 expect() {
     status=0 before=$(ls)
     (shift 2 && "$@") > "$work/said" 2>&1 || status=$?
@@ -45,6 +45,7 @@ TAR_OPTIONS=--totals CDPATH=$PWD TZ=Asia/Tokyo "$pack" 'another place/' "$work/s
 cmp first/package/lumaris.wpk "$work/second/package/lumaris.wpk"
 
 pack_into_client() { cd Client.app/Contents && "$pack" .. Resources/out; }
+# Writes beyond the limit fail then, as on a full disk, and send no signal.
 pack_on_full_disk() { trap '' XFSZ && ulimit -f 99 && "$pack" big out; }
 cp -r Client.app big
 head -c 1M /dev/urandom > big/file
@@ -53,7 +54,8 @@ expect 1 "'first' exists" "$pack" Client.app first
 expect 1 'lies in the client' pack_into_client
 expect 1 "'out' cannot be written: zstd" pack_on_full_disk
 
-# refused TEXT HARM...: what is done to the client is the reason. Root passes over permissions.
+# refused TEXT HARM...: what is done to the client is the reason. Root passes
+# over permissions, so it drops that right.
 [ "$(id -u)" != 0 ] || without_override='setpriv --bounding-set -dac_override,-dac_read_search'
 refused() {
     make_client
@@ -66,7 +68,8 @@ refused 'has a line break' touch "$(printf 'two\nlines')"
 refused 'Cannot open: Permission denied' chmod 0 Info.plist
 refused "Info.plist' is missing" rm Info.plist
 
-# Minutes to read, interrupted once something of it is written.
+# Minutes to read, interrupted once something of it is in the work folder of the packer. The status
+# comes from wait.
 pack_until_killed() {
     "$pack" big out &
     until ls out.*/out/package/*; do sleep .1; done > /dev/null 2>&1

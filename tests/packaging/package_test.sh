@@ -11,7 +11,8 @@ work=$(mktemp -d "${TMPDIR:-/tmp}/lumaris-package.XXXXXX")
 trap 'pkill -KILL -f "^$work/" || true; rm -rf "$work"' EXIT
 
 make_deb() { "$cpack" -G DEB --config "$build/CPackConfig.cmake" -B "$work/out" 2>&1; }
-# Nobody ships the demo client by accident: it has to be named, here by the environment.
+# Nobody ships the demo client by accident: it has to be named, here by the environment. The message
+# is wrapped.
 (! make_deb) | tr -s ' \n' ' ' | grep 'configure with -DLUMARIS_PACKAGE=FOLDER'
 LUMARIS_PACKAGE=$build/packaging/bundle/package make_deb
 [[ $(dpkg-deb -f "$work"/out/*.deb Depends) == *libarchive13*libicu*libqt* ]]
@@ -20,6 +21,7 @@ mkdir "$work"/{home,tmp}
 dpkg-deb -x "$work"/out/*.deb "$work/root"
 readonly installed=$work/root/opt/lumaris
 readonly contents=$installed/LumarisLauncher.app/Contents
+# That of the toolkit.
 grep -q 'GNU LESSER GENERAL PUBLIC LICENSE' "$work/root/usr/share/doc/lumaris-launcher/copyright"
 "$installed/bin/lumaris-verify" "$contents/Resources/package/lumaris.wpk"
 env -u DISPLAY HOME="$work/home" TMPDIR="$work/tmp" XDG_RUNTIME_DIR="$work/tmp" LC_ALL=C.UTF-8 \

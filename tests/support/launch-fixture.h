@@ -25,7 +25,7 @@ protected:
         WriteFile(bundle / "log/launcher.debug", "launcher_debug=7\nservice_debug=7\n");
         Ship("121");
     }
-    ~LaunchTest() override { StopClient(); }
+    ~LaunchTest() override { EndAll(); }
 
     void Ship(const std::string &build, const Entries &more = {}) {
         Entries entries = ClientPackage(build, ReadFile(CLIENT));
@@ -67,7 +67,7 @@ protected:
     void ExpectLaunch(const std::string &build, const std::vector<std::string> &under = {}) {
         EXPECT_EQ(0, Finish(Start(under)));
         ExpectInstalled(build);
-        StopClient();
+        EndAll();
     }
 
     /// Starts the launcher, by itself or `under` a program with its arguments.
@@ -106,7 +106,7 @@ protected:
     /// What follows "pid=", or 0.
     pid_t ClientPid() const { return atoi(ReadFile(lumaris / "ui.pid").erase(0, 4).c_str()); }
     /// Ends every program of this place, a client that has not written its pid file yet included.
-    void StopClient() const {
+    void EndAll() const {
         const std::string end_all = "pkill -KILL -f '^" + place.string() + "/'";
         EXPECT_NE(-1, system(end_all.c_str()));
         std::error_code none;

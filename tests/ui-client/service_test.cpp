@@ -32,15 +32,16 @@ protected:
 };
 
 TEST_F(ServiceTest, ReadsVersionsAsPlainText) {
-    // A file with "@" is read by way of a temporary copy, which can be made elsewhere, too.
+    // No such folder: the copy by which a file with "@" is read has to be made elsewhere.
     setenv("TMPDIR", "/none", 1);
     const struct {
         const char *keys, *version;
     } rows[] = {
         {"[Version]\nmajor_version=2\nminor_version=5\nbuild_version=121\nicon_overlay_version=7\n",
          "(2, 5, 121, 7)\n"},
+        // Outside of their section.
         {"build_version=1\n[Other]\nminor_version=2\n", "(, , , )\n"},
-        // QSettings would take it for a list of two thousand million texts, and end the program.
+        // To QSettings type 0x0B, a list of 0x79746541 ("yteA") texts: it would end the program.
         {"[Version]\nminor_version=@Variant(\\0\\0\\0\\xByteA)\n", "(, @Variant("},
     };
     for (const auto &row : rows) {
@@ -79,10 +80,11 @@ TEST_F(ServiceTest, StopsTheClientAndKillsOneThatStays) {
         signal(SIGTERM, stays ? SIG_IGN : SIG_DFL);
         const pid_t client = Child([] { sleep(15); });
         signal(SIGTERM, SIG_DFL);
+        // Reaps it at its end: a zombie would count as alive.
         auto end = std::async(std::launch::async, Finish, client);
         const time_t start = time(nullptr);
         Upgrade(client);
-        EXPECT_EQ(stays, time(nullptr) - start > 3) << "killed too soon or too late";
+        EXPECT_EQ(stays, time(nullptr) - start > 3) << "killed early, or waited for after its end";
         EXPECT_EQ(1000 + (stays ? SIGKILL : SIGTERM), end.get());
     }
 }
@@ -100,7 +102,7 @@ TEST_F(ServiceTest, SignalsNobodyButTheClient) {
 }
 
 TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
-    for (const bool fails : {false, true}) {  // in this order
+    for (const bool fails : {false, true}) {  // in this order: the log keeps the failure
         desktop_fails = fails;
         desktop_calls = "";
         service.PostUpgrade();
@@ -110,21 +112,21 @@ TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
     }
 }
 
-// A file stands for a bundle here. The record is a link to the backup's name, from the start of an
-// upgrade to its end.
+// A file stands for a bundle here. The record is a link to the backup's name: "_upgrade" until
+// the new bundle is whole, then "_upgraded".
 TEST_F(ServiceTest, RecoversByTheRecord) {
     const char *const tmp = "Lumaris.app_tmp";
     const struct {
         const char *what;                          // when the launcher ended
-        std::map<std::string, std::string> files;  // by suffix; "1" is half of a bundle
+        std::map<std::string, std::string> files;  // by suffix
         const char *record, *target;               // the link beside them
         const char *recovered;                     // all of it afterwards
     } rows[] = {
         {"before the move", {{"", "old"}}, "_upgrade", tmp, "Lumaris.app=old"},
         {"after the move", {{"_tmp", "old"}}, "_upgrade", tmp, "Lumaris.app=old"},
-        {"while it extracted", {{"", "1"}, {"_tmp", "old"}}, "_upgrade", tmp, "Lumaris.app=old"},
-        {"in a first installation", {{"", "1"}}, "_upgrade", "first-installation", ""},
-        {"while it cleaned up", {{"", "new"}, {"_tmp", "1"}}, "_upgraded", tmp, "Lumaris.app=new"},
+        {"while it extracted", {{"", "half"}, {"_tmp", "old"}}, "_upgrade", tmp, "Lumaris.app=old"},
+        {"in a first installation", {{"", "half"}}, "_upgrade", "first-installation", ""},
+        {"in the cleanup", {{"", "new"}, {"_tmp", "half"}}, "_upgraded", tmp, "Lumaris.app=new"},
         {"a record that is not ours", {{"", "old"}}, "_upgrade", "..", "Lumaris.app=old"},
     };
     for (const auto &row : rows) {
@@ -138,19 +140,19 @@ TEST_F(ServiceTest, RecoversByTheRecord) {
     }
 }
 
-TEST_F(ServiceTest, AStaleRecordGoesBeforeANewUpgrade) {
-    WriteFile(app, "old");
-    fs::create_symlink("Lumaris.app_tmp1", app.string() + "_upgraded");
-    EXPECT_EQ(-1, service.PrepareUserEnv()) << "there is no package";
-    EXPECT_EQ("Lumaris.app=old", Tree(lumaris)) << "the record would end that upgrade's backup";
-}
-
 TEST_F(ServiceTest, RecoversNothingUnlessTheRecordIsALink) {
     WriteFile(app, "part");
     WriteFile(app.string() + "_tmp", "old");
     fs::create_directory(app.string() + "_upgrade");  // a record would be a link
     service.RecoverUserEnv();
     EXPECT_EQ("Lumaris.app=part Lumaris.app_tmp=old Lumaris.app_upgrade/", Tree(lumaris));
+}
+
+TEST_F(ServiceTest, AStaleRecordGoesBeforeANewUpgrade) {
+    WriteFile(app, "old");
+    fs::create_symlink("Lumaris.app_tmp1", app.string() + "_upgraded");
+    EXPECT_EQ(-1, service.PrepareUserEnv()) << "there is no package";
+    EXPECT_EQ("Lumaris.app=old", Tree(lumaris)) << "the record would end that upgrade's backup";
 }
 
 // A name that is not UTF-8 can be extracted, and not be removed. The entry behind it is refused.
