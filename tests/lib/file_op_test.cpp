@@ -58,6 +58,7 @@ TEST_F(FileOpTest, BeneathAFileIsAnErrorOrMissing) {
     EXPECT_EQ(GetFileInfo("file/x", info), -1) << "ENOTDIR is an error here";
     EXPECT_EQ(FSStat("file/x", info, false), 0) << "and only missing here";
     EXPECT_FALSE(info.exists);
+    EXPECT_EQ(FSStat("", info, false), -1) << "no path";
 }
 
 TEST_F(FileOpTest, Copies) {

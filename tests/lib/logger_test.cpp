@@ -78,6 +78,12 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyte) {
     EXPECT_EQ(fs::file_size(log), LIMIT) << "the count did not start anew";
 }
 
+TEST_F(LoggerTest, AFailedStartKeepsTheEarlierStream) {
+    EXPECT_EQ(Start(root), -1) << "a folder";
+    Write("text\n");
+    EXPECT_EQ(AfterStamp(Log()), "text\n");
+}
+
 TEST_F(LoggerTest, ReopeningLeavesNoDescriptorOpen) {
     const int lowest = fileno(Logger::log_fp);
     EXPECT_EQ(Logger::Rotate(), 0);

@@ -98,6 +98,7 @@ TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
         {"an endless link", {{"l", "", AE_IFLNK, "l"}}, "never arrives"},
 
         {"no right to run", {{kClientExecutable, "x"}}, "executable", kClientExecutable},
+        {"a link as program", {{kClientExecutable, "", AE_IFLNK, "x"}}, "plain", kClientExecutable},
         {"an empty program", {{kClientExecutable}}, "-ui' is empty", kClientExecutable},
         {"a word as build", {{kInfo, Info("v121")}}, "no build number", kInfo},
         {"INFO in small letters", {{"Contents/Resources/info"}}, "INFO' is missing", kInfo},
@@ -113,6 +114,13 @@ TEST_P(VerifyTest, RefusesWhatHarmsTheClientOnAMac) {
         EXPECT_EQ(0, MacService().PrepareUserEnv()) << row.what << ": " << Log();
         EXPECT_EQ(kClientTree, Tree(app)) << row.what;
     }
+}
+
+TEST_P(VerifyTest, RefusesAWrongChecksum) {
+    WritePackage(package, kClient, "zip");
+    std::string bytes = ReadFile(package);  // with the checksums in the list at its end
+    WriteFile(package, bytes.replace(bytes.find("PK\1\2") + 16, 4, "none"));
+    EXPECT_FALSE(IsAccepted()) << said;
 }
 
 // To tar, an empty block is the end. A flipped bit in compressed data can make one of a header.
