@@ -42,7 +42,8 @@ TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
     const auto pipe = [](const fs::path &path) { EXPECT_EQ(0, mkfifo(path.c_str(), 0600)); };
     const auto endless = [](const fs::path &path) { fs::create_symlink("/dev/zero", path); };
     const auto huge = [](const fs::path &path) {
-        WriteFile(path, Info("121"));  // the build that is shipped
+        // The build that is shipped.
+        WriteFile(path, Info("121"));
         fs::resize_file(path, 800 << 20);
     };
     const struct {
@@ -61,7 +62,8 @@ TEST_F(LaunchTest, OddFilesHoldNobodyUp) {
         fs::create_directory(lumaris / "log");
         fs::remove(row.path);
         row.make(row.path);
-        EXPECT_EQ(0, Finish(Start({"timeout", "10"})));  // 124 when it is held up
+        // 124 when it is held up.
+        EXPECT_EQ(0, Finish(Start({"timeout", "10"})));
         EXPECT_FALSE(fs::exists(app / "old file")) << "not upgraded";
         EndAll();
     }

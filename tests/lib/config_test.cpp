@@ -9,7 +9,8 @@ using ConfigTest = HomeTest;
 using Pairs = std::map<ustring, ustring>;
 
 TEST_F(ConfigTest, ReadsLines) {
-    const std::string filled(8189, 'x');  // with "a=" before it, as long as a line may be
+    // With "a=" before it, as long as a line may be.
+    const std::string filled(8189, 'x');
     const struct {
         const char *what;
         std::string text;

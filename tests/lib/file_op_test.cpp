@@ -116,7 +116,8 @@ TEST_F(FileOpTest, MakesAllFoldersOfAPath) {
     const ustring blocked("\u00E9/file/x/y");
     char *stop = nullptr;  // points into the path's text
     EXPECT_EQ(FSMKDirP("\u00E9/x/y", nullptr, false, 0775), 0);
-    EXPECT_EQ(FSMKDirP(blocked, &stop, false, 0xFFFF), -1);  // 0xFFFF: as the umask says
+    // 0xFFFF: as the umask says.
+    EXPECT_EQ(FSMKDirP(blocked, &stop, false, 0xFFFF), -1);
     EXPECT_STREQ(stop, "/y") << "what was not tried, behind the x that cannot be made";
     EXPECT_EQ(FSMKDirP("\u00E9/file/x", nullptr, true, 0xFFFF), 0) << "in place of a file";
     EXPECT_EQ(Tree("."), "e\u0301/ e\u0301/file/ e\u0301/file/x/ e\u0301/x/:775 e\u0301/x/y/:775");

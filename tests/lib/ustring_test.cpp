@@ -171,7 +171,8 @@ TEST(UstringTest, EditsAndSearchesLikeStdStringAndIcu) {
 }
 
 TEST(UstringTest, FoldsAsciiOnly) {
-    for (int c = 1; c < 256; ++c) {  // the second bytes decide, by their difference
+    // The second bytes decide, by their difference.
+    for (int c = 1; c < 256; ++c) {
         EXPECT_EQ(tolower(c) - 'm', ustring::compare(std::string{'a', char(c)}, "AM", true)) << c;
     }
 }

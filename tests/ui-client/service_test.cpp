@@ -13,7 +13,8 @@
 
 namespace {
 
-std::string desktop_calls;  // noted by the doubles at the end
+// Noted by the doubles at the end.
+std::string desktop_calls;
 bool desktop_fails;
 
 class ServiceTest : public HomeTest {
@@ -102,7 +103,8 @@ TEST_F(ServiceTest, SignalsNobodyButTheClient) {
 }
 
 TEST_F(ServiceTest, OpensTheBundleWhateverTheDesktopSays) {
-    for (const bool fails : {false, true}) {  // in this order: the log keeps the failure
+    // In this order: the log keeps the failure.
+    for (const bool fails : {false, true}) {
         desktop_fails = fails;
         desktop_calls = "";
         service.PostUpgrade();
@@ -143,7 +145,8 @@ TEST_F(ServiceTest, RecoversByTheRecord) {
 TEST_F(ServiceTest, RecoversNothingUnlessTheRecordIsALink) {
     WriteFile(app, "part");
     WriteFile(app.string() + "_tmp", "old");
-    fs::create_directory(app.string() + "_upgrade");  // a record would be a link
+    // A record would be a link.
+    fs::create_directory(app.string() + "_upgrade");
     service.RecoverUserEnv();
     EXPECT_EQ("Lumaris.app=part Lumaris.app_tmp=old Lumaris.app_upgrade/", Tree(lumaris));
 }
@@ -173,7 +176,7 @@ TEST_F(ServiceTest, CopiesFilesAndTrees) {
     EXPECT_EQ(-1, service.FSCopyPath("tree", "copy/single")) << "a folder onto a file";
 }
 
-TEST_F(ServiceTest, TheExtractorReportsEachEntry) {
+TEST_F(ServiceTest, TheExtractorReportsAndListsEachEntry) {
     Extractor extractor;
     extractor.m_src_path = "a.wpk";
     extractor.m_dest_path = "dest";
@@ -184,6 +187,9 @@ TEST_F(ServiceTest, TheExtractorReportsEachEntry) {
                      [&](int total, int done) { reports.emplace_back(total, done); });
     EXPECT_EQ(0, extractor.Extract()) << Log();
     EXPECT_EQ((decltype(reports){{2, 1}, {2, 2}}), reports);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(0, extractor.List());
+    EXPECT_EQ("one\ntwo\n", testing::internal::GetCapturedStdout());
 }
 
 }  // namespace
