@@ -127,8 +127,8 @@ std::string FirstDifference(unsigned seed) try {
     const auto draw = [&random](unsigned long below) { return random() % below; };
     // Together not always UTF-8, and at times longer than the buffers of a conversion.
     const std::string pieces[] = {
-        "/",    "aB",           "\xC3\xA9",           "e\xCC\x81", "\xF0\x9F\x98\x80",
-        "\xFF", "\xED\xA0\x80", std::string(600, 'p')};
+        "/",        "aB",   "\xC3\xA9",     "e\xCC\x81",          "\xF0\x9F\x98\x80",
+        "\xC2\x80", "\xFF", "\xED\xA0\x80", std::string(600, 'p')};
     ustring u;
     std::string s;
     for (int edits = 25; edits > 0 && s.size() < 5000; --edits) {
