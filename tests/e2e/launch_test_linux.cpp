@@ -84,6 +84,7 @@ TEST_F(LaunchTest, TriesTenBackupNames) {
 // Another user may have linked a file of his to the lock's name, and could hold it for ever.
 TEST_F(LaunchTest, AHardLinkedLockFileStopsNobody) {
     ExpectLaunch("121");
+    // The only file there is the lock.
     const auto files = fs::directory_iterator(place / "tmp");
     const fs::path lock =
         *std::find_if(begin(files), end(files),

@@ -20,20 +20,24 @@ protected:
 };
 
 TEST_F(FileOpTest, FindsAnySpelling) {
+    // U+212A, the Kelvin sign, is "K" in NFC.
     for (const char *file : {"d/e\u0301t\u00E9", "\u212Aelvin", "x (deleted)"}) {
         WriteFile(file, "");
     }
     fs::create_directory_symlink("d", "link");
     const struct {
         const char *what;
-        ustring path, stored;
+        // In NFC, whatever the form on the disk.
+        ustring path, found;
         int type;
-        bool exact;  // asked for as it is stored
+        // The full path as it is found, but for its form.
+        bool exact;
     } cases[] = {
         {"respelt", Full("d/\u00E9te\u0301"), Full("d/\u00E9t\u00E9"), FILE_TYPE_REGULAR, true},
         {"through a link", "link/\u00E9t\u00E9", Full("d/\u00E9t\u00E9"), FILE_TYPE_REGULAR, false},
         {"a link", Full("link"), Full("link"), FILE_TYPE_SYMLINK, true},
         {"relative", "Kelvin", Full("Kelvin"), FILE_TYPE_REGULAR, false},
+        // The kernel ends the path of a removed file that is still open in " (deleted)".
         {"named as if removed", Full("x (deleted)"), Full("x (deleted)"), FILE_TYPE_REGULAR, true},
         {"missing", "no/\u00E9", "no/\u00E9", FILE_TYPE_NONE, false},
     };
@@ -44,8 +48,8 @@ TEST_F(FileOpTest, FindsAnySpelling) {
         EXPECT_EQ(GetFileInfo(row.path, info), 0);
         EXPECT_EQ(info.exists, row.type != FILE_TYPE_NONE);
         EXPECT_EQ(info.type, row.type);
-        EXPECT_EQ(info.path, row.stored);
-        EXPECT_EQ(info.name, FSBaseName(row.stored));
+        EXPECT_EQ(info.path, row.found);
+        EXPECT_EQ(info.name, FSBaseName(row.found));
         EXPECT_EQ(FSStat(row.path, exact, true), 0);
         EXPECT_EQ(exact.exists, row.exact);
     }
@@ -81,9 +85,9 @@ TEST_F(FileOpTest, Renames) {
     EXPECT_EQ(FSRename("none", "x", false), -2);
     EXPECT_EQ(FSRename("file", "x", true), -2) << "a relative path is never exact";
     EXPECT_EQ(FSRename("e\u0301", "full", false), -3) << "the destination is not empty";
-    EXPECT_EQ(FSRename("file", std::string(256, 'n'), false), -100);
+    EXPECT_EQ(FSRename("file", std::string(256, 'n'), false), -100) << "too long";
     EXPECT_EQ(FSRename("full", "to", false), 0);
-    EXPECT_EQ(FSRename(Full("\u00E9/f"), "x", true), 0);
+    EXPECT_EQ(FSRename(Full("\u00E9/f"), "x", true), 0) << "exact but for the form";
     EXPECT_EQ(Tree("."), "e\u0301/ file=file to/ to/f=full/f x=e\u0301/f");
 }
 

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr size_t STAMP = sizeof("Jan 31 23:59:59 ") - 1, LIMIT = 1048576;
-const std::string FILLS_THE_LOG(LIMIT - STAMP, 'x');  // to the last byte before it is rotated
+const std::string FILLS_THE_LOG(LIMIT - STAMP, 'x');  // an empty one; a byte more rotates
 
 /// What follows the time stamp of now at the start of `text`.
 std::string AfterStamp(const std::string &text) {
@@ -43,7 +43,7 @@ TEST_F(LoggerTest, ThresholdsPerComponent) {
         Logger::Level level;
         bool written;
     } cases[] = {
-        // in this order
+        // in this order: a level stays
         {"a warning by default", "", Logger::LEVEL_WARNING, true},
         {"names in another letter case", "Service_debug=7\n", Logger::LEVEL_NOTE, false},
         {"what the file asks for", "service_debug=7\n", Logger::LEVEL_DEBUG, true},
@@ -74,7 +74,7 @@ TEST_F(LoggerTest, RotatesBeyondOneMebibyte) {
     }
     EXPECT_FALSE(fs::exists(Rotated(8))) << "more than nine, with the current one";
     Write("new\n");
-    Write(FILLS_THE_LOG.substr(STAMP + sizeof("new\n") - 1));  // full again, to the last byte
+    Write(FILLS_THE_LOG.substr(STAMP + sizeof("new\n") - 1));  // less that line: full again
     EXPECT_EQ(fs::file_size(log), LIMIT) << "the count did not start anew";
 }
 

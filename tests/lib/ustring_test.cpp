@@ -77,7 +77,7 @@ void CompareOrder(Comparison &check, const ustring &u, const std::string &s,
     check.Same("< <= == != >= >", orders(u, x), orders(s, other));
 }
 
-/// Edits both alike, with the text `x`, from `at` in the text that is there, and with `n` of it.
+/// Edits both alike: `x` is the new text, `at` a place in the old one, `n` a count.
 /// Returns the edit's name.
 const char *Edit(unsigned long which, ustring &u, std::string &s, const std::string &x,
                  unsigned long at, unsigned long n) {
@@ -139,7 +139,8 @@ std::string FirstDifference(unsigned seed) try {
         const unsigned long pos = draw(32) - 1, n = draw(32) - 1;  // 0 - 1 is npos
         const std::string before = s;
         const char *const edit = Edit(random(), u, s, x, std::min(pos, s.size()), n);
-        // Half the time a copy, so that an edit also meets a text without its UTF-16 form.
+        // Half the time a copy is converted, so that an edit also meets a text without its UTF-16
+        // form.
         const ustring copy(u);
         Comparison check;
         CompareForms(check, pos % 2 == 0 ? u : copy, s);
@@ -171,7 +172,7 @@ TEST(UstringTest, EditsAndSearchesLikeStdStringAndIcu) {
 }
 
 TEST(UstringTest, FoldsAsciiOnly) {
-    // The second bytes decide, by their difference.
+    // The second bytes decide, by their difference. tolower() leaves bytes beyond ASCII alone.
     for (int c = 1; c < 256; ++c) {
         EXPECT_EQ(tolower(c) - 'm', ustring::compare(std::string{'a', char(c)}, "AM", true)) << c;
     }

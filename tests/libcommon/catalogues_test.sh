@@ -8,7 +8,7 @@ trap 'rm -rf "$work"' EXIT
 cp -r "$1/translations" "$1/libcommon" "$work"
 cd "$work/translations"
 sed -i 's/"Lumaris Backup is ready\."/"A new text"/' ../libcommon/str-table-rows.h
-# It prints FILE:TEXTS TO TRANSLATE, one text in every language but English.
+# update.sh prints FILE:TEXTS TO TRANSLATE, one text in every language but English.
 ./update.sh | grep -c '\.ts:1$' | grep -x 19
 grep '<translation>A new text</translation>' enu.ts
 (! grep 'Lumaris Backup is ready\.' ./*.ts)

@@ -18,6 +18,7 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
     QCoreApplication app(argc, nullptr);
     qInitResources_texts();
     StrTable::InitStrTable();
+    // Lines of LANGUAGE, tab, TEXT: those that are rightly the same as in English.
     const std::string unchanged = ReadFile(SOURCES "/translations/unchanged.txt");
     for (const QString &code : TarnLocale::getSupportedLanguages()) {
         SCOPED_TRACE(qPrintable(code));
@@ -28,7 +29,9 @@ TEST(Catalogues, TranslateEveryTextAndKeepItsForm) {
             SCOPED_TRACE(StrTable::kRows[id].key);
             const QString english = QString::fromUtf8(StrTable::kRows[id].text);
             const QString translated = StrTable::LoadStr(id);
+            // A missing text is empty to the translator, and English to LoadStr.
             EXPECT_EQ(translated, translator.translate("global", StrTable::kRows[id].text));
+            // The last is a colon at the end, a wide one, too.
             for (const char *kept : {"%1", "%2", "\\.\\.\\.", "^ ", " $", "[:\uFF1A](?= ?$)"}) {
                 const QRegularExpression form(QString::fromUtf8(kept));
                 EXPECT_EQ(english.count(form), translated.count(form)) << kept;
@@ -50,8 +53,8 @@ TEST(StrTable, FindsIdsByKeyAndTextsById) {
     EXPECT_EQ("", StrTable::LoadStr(last + 1).toStdString());
 }
 
-TEST(TarnLocale, LanguageForLocale) {
-    // The two Chinese scripts, and English for a language that there is not.
+TEST(TarnLocale, MapsALocaleToALanguage) {
+    // The two Chinese scripts, and English for a language that there are no texts in.
     const char *const rows[][2] = {
         {"zh_hk", "cht"}, {"zh_mo", "cht"}, {"zh_sg", "chs"}, {"es_419", "esn"}, {"pt", "ptg"},
         {"no", "nor"},    {"nn_no", "nor"}, {"fi_fi", "enu"}, {"", "enu"},

@@ -123,7 +123,7 @@ TEST_P(VerifyTest, RefusesAWrongChecksum) {
     EXPECT_FALSE(IsAccepted()) << said;
 }
 
-// To tar, an empty block is the end. A flipped bit in compressed data can make one of a header.
+// To tar, an empty block is the end. A flipped bit in compressed data can turn a header into one.
 TEST_P(VerifyTest, AZeroedHeaderIsNotTheEndOfThePackage) {
     WritePackage(package, kClient);
     WriteFile(package, ReadFile(package).replace(1024, 512, 512, '\0'));  // the second file's
@@ -142,7 +142,7 @@ TEST_P(VerifyTest, DamageIsRefusedOrHasNoEffect) {
             WriteFile(package, damaged);
             fs::remove_all(app);
             const bool installed = MacService().ExtractPackage() == 0;
-            SCOPED_TRACE((damaged == flipped ? "a bit of " : "cut at ") + std::to_string(place));
+            SCOPED_TRACE((damaged == flipped ? "flip at " : "cut at ") + std::to_string(place));
             EXPECT_EQ(installed, IsAccepted()) << said;
             EXPECT_TRUE(!installed || Tree(app) == kClientTree) << Tree(app);
         }

@@ -58,7 +58,7 @@ TEST_F(ServiceTest, UpgradesAnOlderOrMissingClient) {
         const char *installed, *shipped;
         bool needed;
     } rows[] = {
-        // The settings reader caches by size and time: neighbours differ in length.
+        // QSettings caches by size and time: INFO files of adjacent rows differ in length.
         {"9", "10", true},
         {"121", "121", false},
         {"10", "9", false},
