@@ -38,7 +38,9 @@ coverage() { grep -o 'cov: [0-9]* ft: [0-9]*' "$LOG" | "$1" -n 1; }
 mkdir "$WORK/corpus"
 mapfile -t crashes < <(find "$ROOT/tests/fuzz/crashes" -type f)
 status=0
-sandboxed "${crashes[@]}" && sandboxed -max_total_time="$seconds" -print_final_stats=1 \
+# Without a file to replay, the target would begin to draw, and not end.
+[ ${#crashes[@]} -eq 0 ] || sandboxed "${crashes[@]}" || status=1
+[ $status -ne 0 ] || sandboxed -max_total_time="$seconds" -print_final_stats=1 \
     /mnt/work/corpus "$ROOT/tests/fuzz/corpus" || status=1
 say "$(sed -n 's/^stat::number_of_executed_units: *//p' "$LOG") executions in $seconds s," \
     "$(coverage head) to $(coverage tail), ${#crashes[@]} earlier findings replayed, new findings: $status"

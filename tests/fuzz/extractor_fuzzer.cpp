@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Bytes as a package: counted and extracted into a fresh folder. A sanitizer or an
-// assertion ends the run.
+// Bytes as a package: counted and extracted into a fresh folder. A sanitizer or an assertion ends
+// the run, and the input is kept as a finding.
 
-#undef NDEBUG  // an assertion ends the run, so that the input is kept as a finding
+#undef NDEBUG
 
 #include "extractor.h"
 
